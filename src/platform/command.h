@@ -1,0 +1,24 @@
+#ifndef KRM_PLATFORM_COMMAND_H
+#define KRM_PLATFORM_COMMAND_H
+
+#include <cstdio>
+#include <string>
+
+// The one way the program runs a shell command. The first word of the command
+// line is looked up so that a machine folder set as system root supplies its
+// own programs:
+//   - an absolute path ("/usr/bin/mountusb.sh", "/home/myspi") is resolved
+//     through the system root;
+//   - a bare name ("date", "hwclock", "pidof", "rm") is taken from
+//     <root>/usr/bin or <root>/bin when it is there, else left to the PATH.
+// The rest of the line is passed unchanged to /bin/sh.
+class Command
+{
+public:
+    static std::string resolve(const char* commandLine);
+    static int system(const char* commandLine);
+    static FILE* popen(const char* commandLine, const char* mode);
+    static int pclose(FILE* stream);
+};
+
+#endif
