@@ -595,11 +595,6 @@ void drawStringa(QPainter& p, int, int)
     p.drawPolyline(QPolygonF() << QPointF(4, 30) << QPointF(4, 44));
     p.setPen(pen(MinusLead, 3));
     p.drawPolyline(QPolygonF() << QPointF(44, 30) << QPointF(44, 44));
-    p.setPen(pen(PlusLead, 2.5));
-    p.drawLine(QPointF(9, 41), QPointF(15, 41));
-    p.drawLine(QPointF(12, 38), QPointF(12, 44));
-    p.setPen(pen(MinusLead, 2.5));
-    p.drawLine(QPointF(33, 41), QPointF(39, 41));
 }
 
 void drawArchivePanel(QPainter& p, int, int)
@@ -1105,14 +1100,18 @@ void drawSplash(QPainter& p, int w, int h)
     p.fillRect(0, 0, w, h, sky);
 
     QRadialGradient glow(QPointF(w - 120, 110), 260);
-    glow.setColorAt(0, QColor(255, 200, 60, 120));
+    glow.setColorAt(0, QColor(255, 200, 60, 110));
+    glow.setColorAt(0.4, QColor(255, 200, 60, 40));
+    glow.setColorAt(0.7, QColor(255, 200, 60, 12));
     glow.setColorAt(1, QColor(255, 200, 60, 0));
-    p.fillRect(0, 0, w, h, glow);
+    p.setPen(Qt::NoPen);
+    p.setBrush(glow);
+    p.drawEllipse(QPointF(w - 120, 110), 260, 260);
     sun(p, QPointF(w - 120, 110), 42, 7);
 
     // a row of modules along the bottom edge, in perspective
-    for (int i = 0; i < 9; ++i) {
-        const qreal x0 = 20 + i * 114;
+    for (int i = 0; i < 8; ++i) {
+        const qreal x0 = 24 + i * 124;
         QPolygonF tilt;
         tilt << QPointF(x0 + 14, h - 100) << QPointF(x0 + 110, h - 100)
              << QPointF(x0 + 100, h - 22) << QPointF(x0, h - 22);
@@ -1136,8 +1135,8 @@ void drawSplash(QPainter& p, int w, int h)
 
     // title
     p.setPen(White);
-    p.setFont(font(120));
-    p.drawText(QRectF(60, 90, 560, 150), Qt::AlignLeft | Qt::AlignVCenter,
+    p.setFont(font(112));
+    p.drawText(QRectF(60, 90, 700, 150), Qt::AlignLeft | Qt::AlignVCenter,
                QStringLiteral("KRM 510"));
     p.setPen(Amber);
     p.setFont(font(44));
@@ -1149,7 +1148,7 @@ void drawSplash(QPainter& p, int w, int h)
                QStringLiteral("Photovoltaic modules and strings"));
 
     // the curves: I-V in amber, P-V in cyan, the maximum power point
-    const QRectF plot(610, 230, 340, 220);
+    const QRectF plot(640, 270, 310, 180);
     p.setPen(pen(QColor(120, 130, 150), 3));
     p.drawLine(plot.bottomLeft() + QPointF(0, 4), plot.topLeft() - QPointF(0, 20));
     p.drawLine(plot.bottomLeft() + QPointF(-4, 0), plot.bottomRight() + QPointF(24, 0));
@@ -1159,6 +1158,7 @@ void drawSplash(QPainter& p, int w, int h)
     p.drawText(QRectF(plot.right() + 20, plot.bottom() - 15, 30, 30), Qt::AlignCenter,
                QStringLiteral("V"));
     const QRectF curves = plot.adjusted(4, 10, -6, 0);
+    p.setBrush(Qt::NoBrush);
     QPen dashed = pen(Cyan, 4);
     dashed.setDashPattern({2, 2.5});
     p.setPen(dashed);
@@ -1174,8 +1174,8 @@ struct Instrument
 {
     QRectF body;
     QPointF minus, plus;   // top terminals
-    QPointF irrSocket;     // right side, upper
-    QPointF tempSocket;    // right side, lower
+    QPointF tempSocket;    // right side, upper
+    QPointF irrSocket;     // right side, lower
 };
 
 Instrument instrument(QPainter& p, const QRectF& body)
@@ -1184,8 +1184,8 @@ Instrument instrument(QPainter& p, const QRectF& body)
     in.body = body;
     in.minus = QPointF(body.left() + body.width() * 0.3, body.top() - 10);
     in.plus = QPointF(body.left() + body.width() * 0.7, body.top() - 10);
-    in.irrSocket = QPointF(body.right() + 10, body.top() + body.height() * 0.55);
-    in.tempSocket = QPointF(body.right() + 10, body.top() + body.height() * 0.78);
+    in.tempSocket = QPointF(body.right() + 10, body.top() + body.height() * 0.55);
+    in.irrSocket = QPointF(body.right() + 10, body.top() + body.height() * 0.78);
 
     // terminals and sockets first, the body covers their bases
     p.setPen(pen(Qt::black, 2));
@@ -1239,12 +1239,14 @@ void cable(QPainter& p, const QPainterPath& path, const QColor& c, qreal width =
 }
 
 // A lead's end at a module: a small connector with its sign beside it.
-void leadEnd(QPainter& p, const QPointF& at, bool positive)
+void leadEnd(QPainter& p, const QPointF& at, bool positive, bool sign = true)
 {
     const QColor c = positive ? PlusLead : MinusLead;
     p.setPen(pen(Qt::black, 1.5));
     p.setBrush(c);
     p.drawRoundedRect(QRectF(at.x() - 7, at.y() - 18, 14, 20), 3, 3);
+    if (!sign)
+        return;
     p.setPen(c);
     p.setFont(font(28));
     p.drawText(QRectF(at.x() - (positive ? 38 : -10), at.y() - 50, 28, 30), Qt::AlignCenter,
@@ -1278,6 +1280,9 @@ QPointF temperatureProbe(QPainter& p, const QPointF& c)
 
 void probeLabel(QPainter& p, const QPointF& at)
 {
+    p.setPen(Qt::NoPen);
+    p.setBrush(QColor(0, 0, 0, 190));
+    p.drawRoundedRect(QRectF(at.x() - 2, at.y() - 14, 36, 28), 5, 5);
     p.setPen(White);
     p.setFont(font(20));
     p.drawText(QRectF(at.x(), at.y() - 13, 60, 26), Qt::AlignLeft | Qt::AlignVCenter,
@@ -1333,14 +1338,14 @@ void drawSchemaStringhe(QPainter& p, int w, int h)
     const Instrument in = instrument(p, QRectF(30, 150, 240, 250));
 
     // three modules drawn, a gap with dots for the others
-    const qreal top = 90, height = 250, width = 120;
-    const qreal xs[] = {360, 510, 700};
+    const qreal top = 90, height = 250, width = 110;
+    const qreal xs[] = {350, 490, 670};
     for (qreal x : xs)
         moduleSymbol(p, QRectF(x, top, width, height), 4, 8);
     p.setPen(Qt::NoPen);
     p.setBrush(White);
     for (int i = 0; i < 3; ++i)
-        p.drawEllipse(QPointF(650 + i * 12 - 12, top + height / 2), 4, 4);
+        p.drawEllipse(QPointF(630 + i * 12 - 12, top + height / 2), 4, 4);
 
     // series links: - of each module to + of the next
     auto plusOf = [&](qreal x) { return QPointF(x + 30, top); };
@@ -1353,10 +1358,10 @@ void drawSchemaStringhe(QPainter& p, int w, int h)
     jumper(minusOf(xs[0]), plusOf(xs[1]));
     // the chain continues through the modules not drawn
     QPainterPath toGap(minusOf(xs[1]));
-    toGap.cubicTo(minusOf(xs[1]) + QPointF(0, -40), QPointF(660, top - 40), QPointF(668, top - 40));
+    toGap.cubicTo(minusOf(xs[1]) + QPointF(0, -40), QPointF(610, top - 40), QPointF(618, top - 40));
     cable(p, toGap, White, 5);
-    QPainterPath fromGap(QPointF(682, top - 40));
-    fromGap.cubicTo(QPointF(690, top - 40), plusOf(xs[2]) + QPointF(0, -40), plusOf(xs[2]));
+    QPainterPath fromGap(QPointF(642, top - 40));
+    fromGap.cubicTo(QPointF(650, top - 40), plusOf(xs[2]) + QPointF(0, -40), plusOf(xs[2]));
     cable(p, fromGap, White, 5);
 
     // the ends of the string to the instrument
@@ -1373,8 +1378,8 @@ void drawSchemaStringhe(QPainter& p, int w, int h)
     cable(p, minusLead, MinusLead);
     cable(p, plusLead, PlusLead);
     for (qreal x : xs) {
-        leadEnd(p, plusOf(x), true);
-        leadEnd(p, minusOf(x), false);
+        leadEnd(p, plusOf(x), true, x == xs[0]);
+        leadEnd(p, minusOf(x), false, x == xs[2]);
     }
 
     const QPointF irrOut = irradianceSensor(p, QRectF(w - 70, 110, 56, 56));
