@@ -437,15 +437,15 @@ Draw uprightBattery(Charge c)
 void mainsPlug(QPainter& p, qreal w, qreal h)
 {
     const qreal cy = h / 2;
-    p.setPen(pen(White, h * 0.14));
-    p.drawLine(QPointF(1, cy), QPointF(w * 0.3, cy));
+    p.setPen(pen(White, h * 0.2));
+    p.drawLine(QPointF(2, cy), QPointF(w * 0.3, cy));
     p.setPen(pen(Qt::black, 1));
     p.setBrush(White);
-    p.drawRoundedRect(QRectF(w * 0.27, h * 0.18, w * 0.3, h * 0.64), h * 0.12, h * 0.12);
+    p.drawRoundedRect(QRectF(w * 0.25, h * 0.08, w * 0.32, h * 0.84), h * 0.14, h * 0.14);
     p.setBrush(Silver);
-    p.drawRect(QRectF(w * 0.57, h * 0.27, w * 0.16, h * 0.13));
-    p.drawRect(QRectF(w * 0.57, h * 0.6, w * 0.16, h * 0.13));
-    lightning(p, QRectF(w * 0.76, h * 0.05, w * 0.22, h * 0.9));
+    p.drawRect(QRectF(w * 0.57, h * 0.22, w * 0.15, h * 0.17));
+    p.drawRect(QRectF(w * 0.57, h * 0.61, w * 0.15, h * 0.17));
+    lightning(p, QRectF(w * 0.74, 0, w * 0.26, h));
 }
 
 // ---------------------------------------------------------------- icons
@@ -1182,8 +1182,8 @@ Instrument instrument(QPainter& p, const QRectF& body)
 {
     Instrument in;
     in.body = body;
-    in.minus = QPointF(body.left() + body.width() * 0.3, body.top() - 10);
-    in.plus = QPointF(body.left() + body.width() * 0.7, body.top() - 10);
+    in.minus = QPointF(body.left() + body.width() * 0.3, body.top() - 16);
+    in.plus = QPointF(body.left() + body.width() * 0.7, body.top() - 16);
     in.tempSocket = QPointF(body.right() + 10, body.top() + body.height() * 0.55);
     in.irrSocket = QPointF(body.right() + 10, body.top() + body.height() * 0.78);
 
@@ -1191,7 +1191,7 @@ Instrument instrument(QPainter& p, const QRectF& body)
     p.setPen(pen(Qt::black, 2));
     for (const auto& t : {std::make_pair(in.minus, MinusLead), std::make_pair(in.plus, PlusLead)}) {
         p.setBrush(t.second);
-        p.drawRoundedRect(QRectF(t.first.x() - 14, t.first.y() - 6, 28, 22), 5, 5);
+        p.drawRoundedRect(QRectF(t.first.x() - 15, t.first.y() - 8, 30, 30), 5, 5);
     }
     p.setBrush(DarkGrey.lighter(130));
     for (const QPointF& s : {in.irrSocket, in.tempSocket})
@@ -1222,9 +1222,9 @@ Instrument instrument(QPainter& p, const QRectF& body)
     // the signs on the terminals
     p.setFont(font(26));
     p.setPen(White);
-    p.drawText(QRectF(in.minus.x() - 14, in.minus.y() - 6, 28, 22), Qt::AlignCenter,
+    p.drawText(QRectF(in.minus.x() - 15, in.minus.y() - 8, 30, 24), Qt::AlignCenter,
                QStringLiteral("\u2212"));
-    p.drawText(QRectF(in.plus.x() - 14, in.plus.y() - 6, 28, 22), Qt::AlignCenter,
+    p.drawText(QRectF(in.plus.x() - 15, in.plus.y() - 8, 30, 24), Qt::AlignCenter,
                QStringLiteral("+"));
     return in;
 }
@@ -1302,9 +1302,9 @@ void drawSchemaPannello(QPainter& p, int w, int h)
 
     // leads: from the top of the module over to the top of the instrument,
     // the - lead outside the + lead so that they never cross
-    QPainterPath plusLead(in.plus + QPointF(0, -6));
+    QPainterPath plusLead(in.plus + QPointF(0, -8));
     plusLead.cubicTo(in.plus + QPointF(0, -90), plusEnd + QPointF(0, -70), plusEnd);
-    QPainterPath minusLead(in.minus + QPointF(0, -6));
+    QPainterPath minusLead(in.minus + QPointF(0, -8));
     minusLead.cubicTo(in.minus + QPointF(0, -125), minusEnd + QPointF(0, -105), minusEnd);
     cable(p, minusLead, MinusLead);
     cable(p, plusLead, PlusLead);
@@ -1367,9 +1367,9 @@ void drawSchemaStringhe(QPainter& p, int w, int h)
     // the ends of the string to the instrument
     const QPointF firstPlus = plusOf(xs[0]);
     const QPointF lastMinus = minusOf(xs[2]);
-    QPainterPath plusLead(in.plus + QPointF(0, -6));
+    QPainterPath plusLead(in.plus + QPointF(0, -8));
     plusLead.cubicTo(in.plus + QPointF(0, -80), firstPlus + QPointF(0, -60), firstPlus);
-    QPainterPath minusLead(in.minus + QPointF(0, -6));
+    QPainterPath minusLead(in.minus + QPointF(0, -8));
     minusLead.lineTo(in.minus + QPointF(0, -110));
     minusLead.cubicTo(in.minus + QPointF(0, -140), QPointF(in.minus.x() + 40, 12),
                       QPointF(in.minus.x() + 120, 12));
