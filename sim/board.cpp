@@ -370,7 +370,7 @@ void Board::command(const std::string& text)
         long target = arg(1, 0);
         for (int k = 0; k < points; k++) {
             double v = points > 1 ? voc * (1.0 - static_cast<double>(k) / (points - 1)) : 0.0;
-            double i = dead ? 0.0 : std::max(0.0, inst->pv.currentAt(v));
+            double i = dead ? 0.0 : std::max(0.0, inst->pv.sweepCurrentAt(v));
             if (dead)
                 v = 0.0;
             if (cmd == "ramp" || cmd == "charge" || cmd == "mea_utroque") {

@@ -325,6 +325,7 @@ bool PvSource::setBypass(int module, int substring, Bypass state)
 
 void PvSource::rebuild()
 {
+    cacheValid = false;
     now = conditionsModel(stc, sheet, g, t);
     strings.resize(static_cast<size_t>(modules));
     for (auto& m : strings)
@@ -404,16 +405,53 @@ double PvSource::currentAt(double voltage) const
 
 PvFigures PvSource::figures() const
 {
-    PvFigures f;
+    buildCache();
+    return cachedFigures;
+}
+
+double PvSource::sweepCurrentAt(double voltage) const
+{
+    buildCache();
+    if (tableV.empty())
+        return 0.0;
+    if (voltage >= tableV.front())
+        return tableI.front();
+    if (voltage <= tableV.back())
+        return tableI.back();
+    size_t lo = 0, hi = tableV.size() - 1;
+    while (hi - lo > 1) {
+        size_t mid = (lo + hi) / 2;
+        if (tableV[mid] > voltage)
+            lo = mid;
+        else
+            hi = mid;
+    }
+    double span = tableV[lo] - tableV[hi];
+    double t = span > 0 ? (tableV[lo] - voltage) / span : 0.0;
+    return tableI[lo] + t * (tableI[hi] - tableI[lo]);
+}
+
+void PvSource::buildCache() const
+{
+    if (cacheValid)
+        return;
+    cacheValid = true;
+    PvFigures& f = cachedFigures;
+    f = PvFigures();
+    tableI.clear();
+    tableV.clear();
     f.voc = std::max(0.0, voltageAt(0.0));
     f.isc = std::max(0.0, currentAt(0.0));
     if (f.isc <= 0.0 || f.voc <= 0.0)
-        return f;
-    const int n = 600;
+        return;
+    const int n = 2000;
     std::vector<double> p(n + 1);
     for (int k = 0; k <= n; k++) {
         double i = f.isc * k / n;
-        p[static_cast<size_t>(k)] = i * voltageAt(i);
+        double v = k == 0 ? f.voc : k == n ? 0.0 : voltageAt(i);
+        tableI.push_back(i);
+        tableV.push_back(v);
+        p[static_cast<size_t>(k)] = i * v;
     }
     double global = *std::max_element(p.begin(), p.end());
     // Local maxima, counted when the dip before the next one is deep enough.
@@ -456,7 +494,6 @@ PvFigures PvSource::figures() const
     f.impp = 0.5 * (lo + hi);
     f.vmpp = voltageAt(f.impp);
     f.pmax = f.impp * f.vmpp;
-    return f;
 }
 
 } // namespace sim

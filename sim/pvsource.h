@@ -70,6 +70,9 @@ public:
     double voltageAt(double current) const;
     double currentAt(double voltage) const;
     PvFigures figures() const;
+    // The same curve from a table built once per condition (for the board's
+    // sweeps): current at a terminal voltage between 0 and Voc.
+    double sweepCurrentAt(double voltage) const;
 
 private:
     struct Substring {
@@ -91,6 +94,10 @@ private:
     double g = 1000.0, t = 25.0;
     std::vector<std::vector<Substring>> strings; // [module][substring]
     std::vector<Group> groups;                   // distinct substrings and their count
+    mutable bool cacheValid = false;
+    mutable PvFigures cachedFigures;
+    mutable std::vector<double> tableI, tableV; // V falling as I rises
+    void buildCache() const;
 };
 
 // Model at given conditions from the STC model and the data sheet.
