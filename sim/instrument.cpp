@@ -65,6 +65,8 @@ Instrument::Instrument(const std::string& rootFolder, bool fastMode) : root(root
 
 Instrument::~Instrument()
 {
+    if (!cleanUp)
+        return;
     // Take away what only exists while the simulator runs.
     for (const auto& node : nodes)
         unlink(path(node.first).c_str());
@@ -411,7 +413,8 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
     long n = 0;
 
     if (cmd == "ping")
-        return ok(format("krm510-simd root=%s mode=%s", root.c_str(), fast ? "fast" : "real"));
+        return ok(format("krm510-simd pid=%d root=%s mode=%s", static_cast<int>(getpid()), root.c_str(),
+                         fast ? "fast" : "real"));
     if (cmd == "quit") {
         *quit = true;
         return ok("bye");

@@ -156,6 +156,9 @@ public:
     void lineReadable(SerialLine* line);
     double tick(); // ms until the next piece of output is due, -1 none
 
+    // Take the nodes away at the end (not when another simulator took over).
+    bool cleanUp = true;
+
     // Shared with the parts.
     std::string root;
     bool fast;

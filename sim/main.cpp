@@ -137,6 +137,15 @@ int main(int argc, char** argv)
     signal(SIGPIPE, SIG_IGN);
 
     Instrument inst(root, fast);
+    // Who owns the folder: a second simulator started on it takes over.
+    makePath(inst.stateDir());
+    const std::string ownerFile = inst.stateDir() + "/simd.pid";
+    const std::string me = std::to_string(getpid()) + "\n";
+    writeFile(ownerFile, me);
+    auto stillOwner = [&ownerFile, &me]() {
+        std::string owner;
+        return readFile(ownerFile, &owner) && owner == me;
+    };
     std::string error;
     if (!inst.start(&error)) {
         fprintf(stderr, "krm510-simd: %s\n", error.c_str());
@@ -235,11 +244,18 @@ int main(int argc, char** argv)
         double now = nowMs();
         if (now - lastRootCheck > 1000.0) {
             lastRootCheck = now;
-            struct stat st;
-            if (stat(inst.root.c_str(), &st) != 0)
-                quit = true; // the machine folder is gone: nobody needs us any more
+            // The machine folder is gone, or another simulator took it over:
+            // nobody needs this one any more.
+            if (!stillOwner()) {
+                quit = true;
+                inst.cleanUp = false; // the nodes are not ours any more
+            }
         }
     }
+    if (!stillOwner())
+        inst.cleanUp = false; // another simulator owns the folder now
+    else
+        unlink(ownerFile.c_str());
     // Answer what is still owed (the "bye" of a quit), then go.
     for (auto& c : clients) {
         if (!c.second.out.empty()) {
@@ -251,7 +267,8 @@ int main(int argc, char** argv)
         close(c.first);
     }
     close(listener);
-    unlink(socketPath.c_str());
+    if (inst.cleanUp)
+        unlink(socketPath.c_str());
     close(sigFd);
     return 0;
 }

@@ -59,6 +59,19 @@ private slots:
         QCOMPARE(entries("/proc/self/task"), threads);
         QCOMPARE(entries("/proc/self/fd"), fds);
     }
+    void secondSimulatorOnTheSameRootTakesOver()
+    {
+        TestRoot root;
+        SimInstrument first(root);
+        QVERIFY(first.isRunning());
+        SimInstrument second(root);
+        QVERIFY(second.isRunning());
+        QVERIFY(second.command("set irradiance 321"));
+        // The first one sees its socket replaced and leaves the nodes alone.
+        QVERIFY(first.stop());
+        QVERIFY(root.exists("/dev/ttyS1"));
+        QCOMPARE(second.field("get", "irradiance"), QByteArray("321"));
+    }
     void quitCommandEndsTheDaemon()
     {
         TestRoot root;

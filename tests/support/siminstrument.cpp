@@ -100,9 +100,10 @@ void SimInstrument::start(bool fast, const QStringList& scenario)
     }
     if (pid < 0)
         return;
-    // Ready when it answers on its socket.
+    // Ready when it answers on its socket (itself, not one that was there before).
+    const QByteArray me = "ok krm510-simd pid=" + QByteArray::number(pid) + " ";
     for (int waited = 0; waited < 10000; waited += 10) {
-        if (call("ping").startsWith("ok"))
+        if (call("ping").startsWith(me))
             return;
         if (waitpid(pid, nullptr, WNOHANG) == pid) {
             pid = -1;
@@ -115,21 +116,31 @@ void SimInstrument::start(bool fast, const QStringList& scenario)
 
 bool SimInstrument::isRunning() const
 {
-    return pid > 0 && call("ping").startsWith("ok");
+    return pid > 0 && call("ping").startsWith("ok krm510-simd pid=" + QByteArray::number(pid) + " ");
 }
 
 bool SimInstrument::stop()
 {
     if (pid <= 0)
         return true;
-    call("quit");
-    bool clean = reap(pid, 3000);
-    if (!clean) {
-        kill(pid, SIGTERM);
-        if (!reap(pid, 2000)) {
-            kill(pid, SIGKILL);
-            reap(pid, 2000);
+    // Its own process, by its id: the socket may belong to another simulator by now.
+    kill(pid, SIGTERM);
+    int status = 0;
+    bool clean = false;
+    for (int waited = 0; waited <= 3000; waited += 10) {
+        pid_t r = waitpid(pid, &status, WNOHANG);
+        if (r == pid) {
+            clean = WIFEXITED(status) && WEXITSTATUS(status) == 0;
+            pid = -1;
+            return clean;
         }
+        if (r < 0 && errno == ECHILD)
+            break;
+        pauseMs(10);
+    }
+    if (pid > 0) {
+        kill(pid, SIGKILL);
+        reap(pid, 2000);
     }
     pid = -1;
     return clean;

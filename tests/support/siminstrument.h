@@ -31,8 +31,8 @@ public:
     SimInstrument& operator=(const SimInstrument&) = delete;
 
     bool isRunning() const;
-    // Ends the simulator ("quit", then SIGTERM, then SIGKILL); true when it
-    // went by itself.
+    // Ends the simulator (SIGTERM, then SIGKILL after 3 s); true when it
+    // shut down cleanly.
     bool stop();
 
     // One scenario line; the whole answer line ("ok ..." or "error ..."),
