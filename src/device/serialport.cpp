@@ -122,8 +122,6 @@ int SerialPort::writeReadSerialPort(const char* command, char* data, int dataSiz
                                     int* error, char separator, unsigned int timeoutMs,
                                     QProgressDialog* progress)
 {
-    if (separator < 7 || separator > 14)
-        separator = 0;
     int written = writeSerialPort(command);
     if (written < 1)
         return written;
@@ -167,6 +165,8 @@ int takeEchoedData(const char* reply, const char* command, char* data, int dataS
     const char* echo = std::strstr(reply, command);
     if (echo == nullptr || dataSize < 1)
         return -1;
+    if (separator < 7 || separator > 14)
+        separator = 0;
     const char* from = echo + std::strlen(command);
     int n = 0;
     for (; from[n] != '\0' && n < dataSize - 1; n++)
