@@ -62,7 +62,7 @@ __attribute__((noinline)) int benchExchange(const std::string& wire, _raw_ramp_i
     char data[checkedTextSize];
     std::memset(data, 0, sizeof data);
     int dataCount = 0;
-    takeEchoedData(reply, "mea_brask\r", data, sizeof data, &dataCount, 10);
+    takeEchoedData(reply, count, "mea_brask\r", data, sizeof data, &dataCount, 10);
     std::memset(ramp, 0, sizeof *ramp);
     int c[4][RAMP_POINTS];
     int* const columns[4] = {c[0], c[1], c[2], c[3]};

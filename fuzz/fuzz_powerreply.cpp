@@ -30,15 +30,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
             at += piece;
         }
         buffer[static_cast<size_t>(abandoned ? 0 : reply.count)] = '\0';
-        int count = reply.count;
+        int count = abandoned ? 0 : reply.count;
         int error = cutStatusLine(buffer.data(), &count);
         (void)error;
 
         char text[checkedTextSize];
         std::memset(text, 0, sizeof text);
         int textCount = 0;
-        if (takeEchoedData(buffer.data(), "mea_brask\r", text, sizeof text, &textCount, 10) < 0)
-            takeEchoedData(buffer.data(), "", text, sizeof text, &textCount, 10);
+        if (takeEchoedData(buffer.data(), count, "mea_brask\r", text, sizeof text, &textCount, 10) < 0)
+            takeEchoedData(buffer.data(), count, "", text, sizeof text, &textCount, 10);
 
         int c[4][RAMP_POINTS];
         int* const columns[4] = {c[0], c[1], c[2], c[3]};

@@ -7,6 +7,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <string.h>
 #include <fcntl.h>
 #include <sys/select.h>
 #include <unistd.h>
@@ -129,7 +130,7 @@ int SerialPort::writeReadSerialPort(const char* command, char* data, int dataSiz
     int replyCount = 0;
     if (readSerialPort(reply, replySize, &replyCount, error, timeoutMs, progress) == 0)
         return -1;
-    return takeEchoedData(reply, command, data, dataSize, count, separator);
+    return takeEchoedData(reply, replyCount, command, data, dataSize, count, separator);
 }
 
 int appendSerialReply(SerialReply* reply, const char* bytes, int n)
@@ -149,27 +150,30 @@ int appendSerialReply(SerialReply* reply, const char* bytes, int n)
 int cutStatusLine(char* buffer, int* count)
 {
     int error = -1;
-    char* status = std::strstr(buffer, "ERROR");
+    char* status = static_cast<char*>(memmem(buffer, static_cast<size_t>(*count), "ERROR", 5));
     if (status == nullptr)
         return error;
     if (std::sscanf(status, "ERROR %d\r", &error) != 1)
         error = -1;
-    *count -= static_cast<int>(std::strlen(status));
+    *count = static_cast<int>(status - buffer);
     *status = '\0';
     return error;
 }
 
-int takeEchoedData(const char* reply, const char* command, char* data, int dataSize, int* count,
-                   char separator)
+int takeEchoedData(const char* reply, int replyCount, const char* command, char* data,
+                   int dataSize, int* count, char separator)
 {
-    const char* echo = std::strstr(reply, command);
+    size_t length = std::strlen(command);
+    const char* echo = static_cast<const char*>(
+        memmem(reply, static_cast<size_t>(replyCount < 0 ? 0 : replyCount), command, length));
     if (echo == nullptr || dataSize < 1)
         return -1;
     if (separator < 7 || separator > 14)
         separator = 0;
-    const char* from = echo + std::strlen(command);
+    const char* from = echo + length;
+    int available = static_cast<int>(reply + replyCount - from);
     int n = 0;
-    for (; from[n] != '\0' && n < dataSize - 1; n++)
+    for (; n < available && n < dataSize - 1; n++)
         data[n] = (from[n] == '\r' && separator != 0) ? separator : from[n];
     data[n] = '\0';
     *count = n;

@@ -67,16 +67,17 @@ struct SerialReply {
 // the line has been busy for more than maxDiscarded bytes past the buffer.
 int appendSerialReply(SerialReply* reply, const char* bytes, int n);
 
-// Looks for the first "ERROR" of the NUL-terminated reply and cuts it there:
-// the number of its "ERROR %d\r" line, or -1 when there is none (or no
-// number behind it). count is reduced to the bytes before the cut.
+// Looks for the first "ERROR" in the count bytes of the reply (a NUL behind
+// them) and cuts it there: the number of its "ERROR %d\r" line, or -1 when
+// there is none (or no number behind it). count becomes the bytes before the
+// cut. Stray NUL bytes on the line are bytes like any other here.
 int cutStatusLine(char* buffer, int* count);
 
-// Finds the whole command text in the NUL-terminated reply and copies what
-// follows it to data (at most dataSize - 1 bytes and the NUL), CR replaced by
-// separator when that lies in 7..14. 1 and the count of data bytes when the
-// command was found; -1 with data untouched when not.
-int takeEchoedData(const char* reply, const char* command, char* data, int dataSize, int* count,
-                   char separator);
+// Finds the whole command text in the replyCount bytes of the reply and
+// copies what follows it to data (at most dataSize - 1 bytes and a NUL), CR
+// replaced by separator when that lies in 7..14. 1 and the count of data bytes
+// when the command was found; -1 with data untouched when not.
+int takeEchoedData(const char* reply, int replyCount, const char* command, char* data,
+                   int dataSize, int* count, char separator);
 
 #endif

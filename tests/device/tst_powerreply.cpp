@@ -105,6 +105,14 @@ private slots:
         QCOMPARE(QByteArray(buffer), QByteArray("ver\r\nx "));
     }
 
+    void statusLineBehindNulBytesIsFound()
+    {
+        char buffer[] = "ver\r\0\0x\r\nERROR 8\r\n";
+        int count = int(sizeof buffer - 1);
+        QCOMPARE(cutStatusLine(buffer, &count), int(PD_NEGATIVE_FLOATING));
+        QCOMPARE(count, 9);
+    }
+
     void statusNumbersWithoutTextAreKept()
     {
         char buffer[] = "info_last\r\nERROR 12\r";
@@ -112,13 +120,14 @@ private slots:
         QCOMPARE(cutStatusLine(buffer, &count), 12);
     }
 
-    void strayBytesBeforeTheEchoAreDropped()
+    void strayBytesWithNulBeforeTheEchoAreDropped()
     {
         char data[64];
         std::memset(data, 'z', sizeof data);
         int count = -5;
-        QCOMPARE(takeEchoedData("\x01\xff#garbage temp_hsink\r\n41.5\r\n", "temp_hsink\r", data,
-                                sizeof data, &count, 10),
+        const char reply[] = "\x01\0\xff#garbage temp_hsink\r\n41.5\r\n";
+        QCOMPARE(takeEchoedData(reply, sizeof reply - 1, "temp_hsink\r", data, sizeof data,
+                                &count, 10),
                  1);
         QCOMPARE(QByteArray(data), QByteArray("\n41.5\n\n"));
         QCOMPARE(count, 7);
@@ -128,7 +137,7 @@ private slots:
     {
         char data[16] = "untouched";
         int count = 3;
-        QCOMPARE(takeEchoedData("temp_hsin\r\n41.5\r\n", "temp_hsink\r", data, sizeof data,
+        QCOMPARE(takeEchoedData("temp_hsin\r\n41.5\r\n", 17, "temp_hsink\r", data, sizeof data,
                                 &count, 10),
                  -1);
         QCOMPARE(QByteArray(data), QByteArray("untouched"));
@@ -139,11 +148,11 @@ private slots:
     {
         char data[32];
         int count = 0;
-        QCOMPARE(takeEchoedData("ver\r\rA\r", "ver\r", data, sizeof data, &count, 0), 1);
+        QCOMPARE(takeEchoedData("ver\r\rA\r", 7, "ver\r", data, sizeof data, &count, 0), 1);
         QCOMPARE(QByteArray(data), QByteArray("\rA\r"));
-        QCOMPARE(takeEchoedData("ver\r\rA\r", "ver\r", data, sizeof data, &count, 15), 1);
+        QCOMPARE(takeEchoedData("ver\r\rA\r", 7, "ver\r", data, sizeof data, &count, 15), 1);
         QCOMPARE(QByteArray(data), QByteArray("\rA\r"));
-        QCOMPARE(takeEchoedData("ver\r\rA\r", "ver\r", data, sizeof data, &count, 7), 1);
+        QCOMPARE(takeEchoedData("ver\r\rA\r", 7, "ver\r", data, sizeof data, &count, 7), 1);
         QCOMPARE(QByteArray(data), QByteArray("\aA\a"));
     }
 
@@ -151,7 +160,7 @@ private slots:
     {
         char data[8];
         int count = 0;
-        QCOMPARE(takeEchoedData("ver\r0123456789", "ver\r", data, sizeof data, &count, 10), 1);
+        QCOMPARE(takeEchoedData("ver\r0123456789", 14, "ver\r", data, sizeof data, &count, 10), 1);
         QCOMPARE(QByteArray(data), QByteArray("0123456"));
         QCOMPARE(count, 7);
     }
@@ -339,7 +348,7 @@ private slots:
         for (int i = 0; i < 20000; i++) {
             x = x * 1103515245u + 12345u;
             char c = char(x >> 24);
-            noise += (c == 'E' || c == '\0') ? 'e' : c;
+            noise += c == 'E' ? 'e' : c;
         }
         std::vector<char> buffer(SerialPort::replySize);
         SerialReply reply{buffer.data(), SerialPort::replySize, 0, 0};
@@ -349,7 +358,7 @@ private slots:
         QCOMPARE(cutStatusLine(buffer.data(), &count), int(PD_NO_REPLY));
         char data[checkedTextSize] = "";
         int dataCount = 0;
-        QCOMPARE(takeEchoedData(buffer.data(), "mea_brask\r", data, sizeof data, &dataCount, 10),
+        QCOMPARE(takeEchoedData(buffer.data(), count, "mea_brask\r", data, sizeof data, &dataCount, 10),
                  -1);
         QCOMPARE(data[0], '\0');
     }

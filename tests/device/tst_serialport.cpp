@@ -315,7 +315,7 @@ private slots:
         QCOMPARE(t, 0.0f);
     }
 
-    void noiseWithNulBeforeTheStatusLineHidesIt()
+    void nulInsideTheDataEndsItsText()
     {
         TestRoot root(0.05);
         PtyBoard board(root);
@@ -324,8 +324,10 @@ private slots:
         QVERIFY(board.send(QByteArray("info_last\r\n1\t2\0\xff\r\nERROR 0\r\n", 27)));
         _info_last info;
         std::memset(&info, 1, sizeof info);
-        QCOMPARE(device.acquireLastInfo(&info), PD_NO_REPLY);
-        QCOMPARE(info.range, 0);
+        QCOMPARE(device.acquireLastInfo(&info), PD_OK);
+        QCOMPARE(info.range, 1);
+        QCOMPARE(info.testmode, 2);
+        QCOMPARE(info.gatestep, 0);
         QCOMPARE(info.ntc_dac, 0);
     }
 };
