@@ -52,6 +52,25 @@ private slots:
         f.kisc = 0.06f;
         COMPARE_BITS(compensazione_pto_corrente(8.8f, 8.8f, 650.0f, 52.3f, &f), 13.31f);
     }
+    void currentIsWorkedOutInDouble()
+    {
+        // Find a current where the formula in double and in single precision
+        // round differently; the double one is the instrument's.
+        const _panelFeature f = referenceModule();
+        const float g = 812.0f, t = 45.3f;
+        const float k = f.kisc / 100.0f, t1 = rndTemperature(t), g1 = rndIrradiation(g);
+        for (int n = 1; n < 100000; n++) {
+            const float i = 0.001f * static_cast<float>(n);
+            const float inDouble =
+                rndCurrent(static_cast<float>(i * (k * (25.0 - t1) + 1.0) * (1000.0 / g1)));
+            const float inSingle = rndCurrent(i * (k * (25.0f - t1) + 1.0f) * (1000.0f / g1));
+            if (inDouble != inSingle) {
+                COMPARE_BITS(compensazione_pto_corrente(i, 0, g, t, &f), inDouble);
+                return;
+            }
+        }
+        QFAIL("no current tells the two precisions apart");
+    }
     void currentAtStandardConditionsIsOnlyRounded()
     {
         const _panelFeature f = referenceModule();
@@ -71,6 +90,32 @@ private slots:
         COMPARE_BITS(compensazione_pto_tensione(30.0f, 37.6f, 0, 0, 800.0f, 45.04f, &f), 32.9f);
         f.kvoc = -0.34f;
         COMPARE_BITS(compensazione_pto_tensione(27.3f, 36.9f, 0, 0, 650.0f, 52.3f, &f), 31.7f);
+    }
+    void voltageShiftIsWorkedOutInDouble()
+    {
+        // Near a rounding boundary of 0.1 V, find a voltage where the shift in
+        // double and in single precision round differently; the double one is
+        // the instrument's.
+        const _panelFeature f = referenceModule();
+        const float g = 200.0f, t = 61.2f, voc = 37.6f;
+        const float k = f.kvoc / 100.0f, t1 = rndTemperature(t), g1 = rndIrradiation(g);
+        const float v1 = rndVoltage(voc);
+        const double shift = v1 * (k * (25.0 - t1) + std::log(1000.0 / g1) * 0.06);
+        const float shiftSingle = v1 * (k * (25.0f - t1) + std::log(1000.0f / g1) * 0.06f);
+        for (double boundary : {30.05, 12.35, 20.45}) {
+            float v = static_cast<float>(boundary - shift);
+            for (int n = 0; n < 300; n++)
+                v = std::nextafter(v, 0.0f);
+            for (int n = 0; n < 600; n++, v = std::nextafter(v, 100.0f)) {
+                const float inDouble = rndVoltage(static_cast<float>(v + shift));
+                const float inSingle = rndVoltage(v + shiftSingle);
+                if (inDouble != inSingle) {
+                    COMPARE_BITS(compensazione_pto_tensione(v, voc, 0, 0, g, t, &f), inDouble);
+                    return;
+                }
+            }
+        }
+        QFAIL("no voltage tells the two precisions apart");
     }
     void voltageAtStandardConditionsIsOnlyRounded()
     {
@@ -214,6 +259,24 @@ private slots:
         _panelFeature g = f;
         g.kpmax = -0.41f;
         COMPARE_BITS(compensazione_potenza_secondo_ht(231.4f, 650.0f, 52.3f, &g), 396.0f);
+    }
+    void powerIsWorkedOutInDouble()
+    {
+        const _panelFeature f = referenceModule();
+        const float g = 812.0f, t = 45.3f;
+        const float t1 = rndTemperature(t), g1 = rndIrradiation(g);
+        for (int n = 1; n < 1000000; n++) {
+            const float p = 0.01f * static_cast<float>(n);
+            const float inDouble = rndPower(static_cast<float>(
+                p * (f.kpmax / 100.0 * (25.0 - t1) + 1.0) * (1000.0 / g1)));
+            const float inSingle =
+                rndPower(p * (f.kpmax / 100.0f * (25.0f - t1) + 1.0f) * (1000.0f / g1));
+            if (inDouble != inSingle) {
+                COMPARE_BITS(compensazione_potenza_secondo_ht(p, g, t, &f), inDouble);
+                return;
+            }
+        }
+        QFAIL("no power tells the two precisions apart");
     }
     void powerAtStandardConditionsIsOnlyRounded()
     {

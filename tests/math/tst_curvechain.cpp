@@ -432,6 +432,31 @@ private slots:
             QVERIFY(std::isnan(stc.pmax));
         }
     }
+    void nanTemperatureFromZeroKvocGivesNanFiguresWithoutTrap()
+    {
+        // kvoc 0 and a measured Voc equal to the nominal: the automatic mode
+        // gives 0 / 0, the limit test lets it through, and the translation
+        // carries the NaN into rndf, which keeps it. The curve keeps its
+        // pinned ends; the verdict fails.
+        _panelFeature f = referenceModule();
+        f.kvoc = 0.0f;
+        const float t = calcola_temperatura(PROBE_AUTO, 1, -20.0f, 1000.0f, 37.6f, &f);
+        QVERIFY(std::isnan(t));
+        QVERIFY(!temperatureOutOfLimits(t));
+        const _ramp_iv ramp = moduleCurve();
+        const CurveFigures measured = {8.0f, 37.6f, 4.0f, 19.0f, 76.0f};
+        _ramp_iv stcRamp, stcSmooth;
+        CurveFigures stc;
+        translateToStc(&ramp, &measured, 1000.0f, t, &f, &stcRamp, &stcSmooth, &stc);
+        QVERIFY(std::isnan(stc.isc) && std::isnan(stc.voc) && std::isnan(stc.impp));
+        QVERIFY(std::isnan(stc.vmpp) && std::isnan(stc.pmax));
+        QVERIFY(std::isnan(stcSmooth.corrente[200]) && std::isnan(stcSmooth.tensione[200]));
+        COMPARE_BITS(stcSmooth.corrente[0], 0.0f);
+        COMPARE_BITS(stcSmooth.tensione[511], 0.0f);
+        const Verdict v = panelVerdict(stc.pmax, &f, 0.0f);
+        QVERIFY(std::isnan(v.deltaPmax));
+        QCOMPARE(v.result, 0);
+    }
     void eachProbeModeDrivesTheTranslation()
     {
         // Ambient 20 degrees at 800 W/m2: cell 45; module and manual: 20 as
