@@ -54,22 +54,33 @@ private slots:
     }
     void currentIsWorkedOutInDouble()
     {
-        // Find a current where the formula in double and in single precision
-        // round differently; the double one is the instrument's.
+        // Near rounding boundaries of rndCurrent, find currents where a factor
+        // narrowed to float, or the whole formula in single precision, would
+        // round differently; the double result is the instrument's.
         const _panelFeature f = referenceModule();
         const float g = 812.0f, t = 45.3f;
         const float k = f.kisc / 100.0f, t1 = rndTemperature(t), g1 = rndIrradiation(g);
-        for (int n = 1; n < 100000; n++) {
-            const float i = 0.001f * static_cast<float>(n);
-            const float inDouble =
-                rndCurrent(static_cast<float>(i * (k * (25.0 - t1) + 1.0) * (1000.0 / g1)));
-            const float inSingle = rndCurrent(i * (k * (25.0f - t1) + 1.0f) * (1000.0f / g1));
-            if (inDouble != inSingle) {
-                COMPARE_BITS(compensazione_pto_corrente(i, 0, g, t, &f), inDouble);
-                return;
+        const double gain = k * (25.0 - t1) + 1.0;
+        const float gainSingle = static_cast<float>(gain);
+        int told = 0;
+        for (int m = 100; m < 900 && told < 2; m++) {
+            const double boundary = m / 100.0 - 0.0005;
+            float i = static_cast<float>(boundary / gain / (1000.0 / g1));
+            for (int n = 0; n < 300; n++)
+                i = std::nextafter(i, 0.0f);
+            for (int n = 0; n < 600; n++, i = std::nextafter(i, 100.0f)) {
+                const float inDouble = rndCurrent(static_cast<float>(i * gain * (1000.0 / g1)));
+                const float narrowedGain =
+                    rndCurrent(static_cast<float>(i * static_cast<double>(gainSingle)
+                                                  * (1000.0 / g1)));
+                const float inSingle = rndCurrent(i * gainSingle * (1000.0f / g1));
+                if (inDouble != narrowedGain || inDouble != inSingle) {
+                    COMPARE_BITS(compensazione_pto_corrente(i, 0, g, t, &f), inDouble);
+                    told += inDouble != narrowedGain;
+                }
             }
         }
-        QFAIL("no current tells the two precisions apart");
+        QVERIFY2(told > 0, "no current tells a narrowed factor apart");
     }
     void currentAtStandardConditionsIsOnlyRounded()
     {

@@ -131,6 +131,30 @@ private slots:
         QCOMPARE(evaluateTestStringa(static_cast<float>(3.0f + 0.01), &f, 0.0f), 1);
         QCOMPARE(evaluateTestStringa(3.02f, &f, 0.0f), 0);
     }
+    void stringVerdictLimitsAreNarrowedToFloat()
+    {
+        // Find tolerances whose limits round away from zero when narrowed:
+        // a deviation equal to the narrowed limit passes, though it lies
+        // beyond the limit worked out in double.
+        _panelFeature f = referenceModule();
+        bool upperTold = false, lowerTold = false;
+        for (int n = 1; n < 100 && !(upperTold && lowerTold); n++) {
+            const float tol = 0.1f * static_cast<float>(n);
+            const double upper = tol + 0.01;
+            const double lower = -tol - 0.01;
+            f.tollp = tol;
+            f.tollm = tol;
+            if (!upperTold && static_cast<float>(upper) > upper) {
+                QCOMPARE(evaluateTestStringa(static_cast<float>(upper), &f, 0.0f), 1);
+                upperTold = true;
+            }
+            if (!lowerTold && static_cast<float>(lower) < lower) {
+                QCOMPARE(evaluateTestStringa(static_cast<float>(lower), &f, 0.0f), 1);
+                lowerTold = true;
+            }
+        }
+        QVERIFY(upperTold && lowerTold);
+    }
     void stringVerdictIgnoresDegradation()
     {
         const _panelFeature f = referenceModule();

@@ -1,4 +1,5 @@
 #include "math/temperatura.h"
+#include "math/rndf.h"
 #include "math/floatbits.h"
 #include "math/reference.h"
 
@@ -54,6 +55,27 @@ private slots:
         const _panelFeature f = referenceModule();
         COMPARE_BITS(calcola_temperatura(PROBE_AUTO, 10, -20.0f, 850.0f, 362.0f, &f),
                      38.19812774658203f);
+    }
+    void autoProbeNarrowsBeforeDividingByKvoc()
+    {
+        // Find a measured Voc where narrowing before the division by k and
+        // dividing in double give different floats; the narrowed one is the
+        // instrument's.
+        const _panelFeature f = referenceModule();
+        const float k = f.kvoc / 100.0f;
+        const float g1 = 1000.0f;
+        for (int n = 0; n < 2000; n++) {
+            const float voc = 30.0f + 0.01f * static_cast<float>(n);
+            const float vs = rndVoltage(voc);
+            const double x = (vs / f.voc - 1.0) + k * (f.noct - 20.0) * (g1 / 800.0);
+            const float narrowedFirst = static_cast<float>(x) / k;
+            if (narrowedFirst != static_cast<float>(x / k)) {
+                COMPARE_BITS(calcola_temperatura(PROBE_AUTO, 1, -20.0f, g1, voc, &f),
+                             narrowedFirst);
+                return;
+            }
+        }
+        QFAIL("no voltage tells the two orders apart");
     }
     void autoProbeAtExactly300UsesLowIrradianceRow()
     {
