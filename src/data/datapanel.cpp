@@ -4,6 +4,7 @@
 #include "data/workdir.h"
 #include "platform/systemroot.h"
 
+#include <QCoreApplication>
 #include <QObject>
 #include <QProgressDialog>
 
@@ -48,6 +49,8 @@ bool walkDataDir(QWidget* parent, const char* label, const char* path, _countFil
         if (what == COUNT_DIRS ? S_ISDIR(st.st_mode) : S_ISREG(st.st_mode))
             add(entry->d_name);
         progress.setValue(++count);
+        // the dialog was shown by hand, so setValue alone doesn't keep the screen alive
+        QCoreApplication::processEvents();
     }
     closedir(dir);
     return true;
