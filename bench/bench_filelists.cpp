@@ -39,7 +39,8 @@ static double bestSeconds(int repeats, const std::function<void()>& run)
 
 static double catSeconds(int repeats, const char* devicePath)
 {
-    std::string line = "find " + SystemRoot::path(devicePath) + " -type f -exec cat {} + > /dev/null";
+    std::string line =
+        "find " + SystemRoot::path(devicePath) + " -type f -exec cat {} + > /dev/null";
     return bestSeconds(repeats, [&line] { Command::system(line.c_str()); });
 }
 
@@ -99,14 +100,16 @@ int main(int argc, char** argv)
 
     printf("readListMeasures (best of %d, %d bytes a file)\n", repeats, int(measure.size()));
     // the fixed part: the progress dialog on an empty directory
-    double empty = bestSeconds(repeats, [] { closeListMeasures(readListMeasures(nullptr, MEA_STRING)); });
+    double empty =
+        bestSeconds(repeats, [] { closeListMeasures(readListMeasures(nullptr, MEA_STRING)); });
     printf("empty directory: %.4f s\n", empty);
     printf("%8s %12s %14s %12s %14s\n", "files", "list s", "list files/s", "cat s", "cat files/s");
     double perFile1000 = 0;
     int written = 0;
     for (int n : {1000, 10000}) {
         for (; written < n; written++)
-            writeFile(meaDir + QString::asprintf("/2010%04d-%06d", written / 100, written), measure);
+            writeFile(meaDir + QString::asprintf("/2010%04d-%06d", written / 100, written),
+                      measure);
         int got = 0;
         double list = bestSeconds(repeats, [&got] {
             _listMeasures* l = readListMeasures(nullptr, MEA_PANEL);

@@ -70,7 +70,7 @@ int updateRecordFile(const char* dataDir, const char* file, WriteRecord write, c
 
 // ---- Company
 
-static const char* const companyKeys[] = {"surn", "name", "nin",   "code",  "city", "zip",
+static const char* const companyKeys[] = {"surn", "name",   "nin",   "code",  "city",  "zip",
                                           "prov", "street", "phone", "email", "sinst", nullptr};
 
 char* newNameFileCompany(const char* surn, char* target)
@@ -147,9 +147,9 @@ _company* readCompanyFromFile(const char* file)
         char* _company::*field;
     };
     static const TextKey keys[] = {
-        {"SURN", &_company::surn}, {"NAME", &_company::name},     {"NIN", &_company::nin},
-        {"CODE", &_company::code}, {"CITY", &_company::city},     {"ZIP", &_company::zip},
-        {"PROV", &_company::prov}, {"STREET", &_company::street}, {"PHONE", &_company::phone},
+        {"SURN", &_company::surn},   {"NAME", &_company::name},     {"NIN", &_company::nin},
+        {"CODE", &_company::code},   {"CITY", &_company::city},     {"ZIP", &_company::zip},
+        {"PROV", &_company::prov},   {"STREET", &_company::street}, {"PHONE", &_company::phone},
         {"EMAIL", &_company::email},
     };
     char line[TAG_LINE_SIZE];

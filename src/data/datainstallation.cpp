@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <cstring>
 
-static const char* const installationKeys[] = {"id",     "city",  "zip",  "prov", "street",
+static const char* const installationKeys[] = {"id",    "city",  "zip",  "prov", "street",
                                                "nstri", "npowe", "pmea", "smea", nullptr};
 
 char* newNameFileInstallation(const char* id, char* target)

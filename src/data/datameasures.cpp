@@ -107,12 +107,12 @@ static void takeMeasureValue(_measure* m, const char* key, const char* value)
         float _measure::*field;
     };
     static const FloatKey floatKeys[] = {
-        {"MISC", &_measure::misc},     {"MVOC", &_measure::mvoc},   {"MIMPP", &_measure::mimpp},
-        {"MVMPP", &_measure::mvmpp},   {"MPMAX", &_measure::mpmax}, {"SISC", &_measure::sisc},
-        {"SVOC", &_measure::svoc},     {"SIMPP", &_measure::simpp}, {"SVMPP", &_measure::svmpp},
-        {"SPMAX", &_measure::spmax},   {"MDPMAX", &_measure::mdpmax}, {"MTEMP", &_measure::mtemp},
-        {"MIRR", &_measure::mirr},     {"MDEGY", &_measure::mdegy}, {"MDEGP", &_measure::mdegp},
-        {"MRS", &_measure::mrs},       {"MRSI1", &_measure::mrsi1}, {"MRSI2", &_measure::mrsi2},
+        {"MISC", &_measure::misc},   {"MVOC", &_measure::mvoc},     {"MIMPP", &_measure::mimpp},
+        {"MVMPP", &_measure::mvmpp}, {"MPMAX", &_measure::mpmax},   {"SISC", &_measure::sisc},
+        {"SVOC", &_measure::svoc},   {"SIMPP", &_measure::simpp},   {"SVMPP", &_measure::svmpp},
+        {"SPMAX", &_measure::spmax}, {"MDPMAX", &_measure::mdpmax}, {"MTEMP", &_measure::mtemp},
+        {"MIRR", &_measure::mirr},   {"MDEGY", &_measure::mdegy},   {"MDEGP", &_measure::mdegp},
+        {"MRS", &_measure::mrs},     {"MRSI1", &_measure::mrsi1},   {"MRSI2", &_measure::mrsi2},
     };
     struct IntKey {
         const char* key;

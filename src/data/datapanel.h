@@ -50,9 +50,9 @@ _listModel* closeListModelBrand(_listModel* list);
 // entry of the kind asked (regular files or directories) to add, under a
 // window-modal progress dialog with the given label whose bar follows the
 // entries. False when the directory can't be entered or read.
-#define READ_PROGRESS_STYLE                                                                       \
-    "QProgressBar:horizontal {border: 1px solid gray;border-radius: 3px;background: "             \
-    "white;padding: 1px;text-align: center;}QProgressBar::chunk:horizontal {background: "        \
+#define READ_PROGRESS_STYLE                                                                        \
+    "QProgressBar:horizontal {border: 1px solid gray;border-radius: 3px;background: "              \
+    "white;padding: 1px;text-align: center;}QProgressBar::chunk:horizontal {background: "          \
     "qlineargradient(x1: 0, y1: 0.5, x2: 1, y2: 0.5, stop: 0 blue, stop: 1 white);}"
 bool walkDataDir(QWidget* parent, const char* label, const char* path, _countFile what,
                  const std::function<void(const char* name)>& add);

@@ -575,10 +575,7 @@ private slots:
     }
 
 private:
-    static int deleteCompanyFile()
-    {
-        return myUnlink(DIR_DATA_COMPANY "/rossi___figli");
-    }
+    static int deleteCompanyFile() { return myUnlink(DIR_DATA_COMPANY "/rossi___figli"); }
 };
 
 QTEST_MAIN(TestDataCompany)

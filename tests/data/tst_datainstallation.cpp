@@ -293,7 +293,8 @@ private slots:
         for (_listInstallation* n = list; n != nullptr; n = n->next)
             got.insert(QString(n->file) + "|" + text(n->id) + "|" + text(n->nstri) + "|" +
                        text(n->npowe));
-        QCOMPARE(got, QSet<QString>({"capannone_nord|Capannone Nord|4|19.8", "tetto|Tetto|1|<null>"}));
+        QCOMPARE(got,
+                 QSet<QString>({"capannone_nord|Capannone Nord|4|19.8", "tetto|Tetto|1|<null>"}));
         QVERIFY(closeListInstallation(list) == nullptr);
     }
 
@@ -342,8 +343,9 @@ private slots:
     {
         TestRoot root;
         directories();
-        installationFile(root, "x", "Version = 1.9.0\nID = Old\nINVERTER = SMA Tripower\n"
-                                    "NOTE = VALID UNTIL 2012\nPMEA = old\n");
+        installationFile(root, "x",
+                         "Version = 1.9.0\nID = Old\nINVERTER = SMA Tripower\n"
+                         "NOTE = VALID UNTIL 2012\nPMEA = old\n");
         _installation* in = static_cast<_installation*>(calloc(1, sizeof(_installation)));
         in->id = strdup("New");
         QCOMPARE(updateDataInstallation("x", in), 0);
@@ -414,7 +416,8 @@ private slots:
         QCOMPARE(result, 0);
         QVERIFY(!root.exists(DIR_DATA_INSTALLATION "/capannone_nord.$$$"));
         QByteArray t = installationText(root, "capannone_nord");
-        QCOMPARE(t, QByteArray("id = Capannone Nord\ncity = Castel Maggiore\nzip = 40013\nprov = B"));
+        QCOMPARE(t,
+                 QByteArray("id = Capannone Nord\ncity = Castel Maggiore\nzip = 40013\nprov = B"));
         _installation* r = readInstallationFromFile("capannone_nord");
         QCOMPARE(text(r->prov), QString("B"));
         QVERIFY(r->street == nullptr);

@@ -103,7 +103,8 @@ class TestDataMeasures : public QObject
         x.mdata = x.mtime = x.mcom = x.rname = x.rbname = nullptr;
         y.mdata = y.mtime = y.mcom = y.rname = y.rbname = nullptr;
         for (int k = 0; k < RAMP_POINTS; k++) {
-            if (x.ramp.corrente[k] != y.ramp.corrente[k] || x.ramp.tensione[k] != y.ramp.tensione[k])
+            if (x.ramp.corrente[k] != y.ramp.corrente[k] ||
+                x.ramp.tensione[k] != y.ramp.tensione[k])
                 QFAIL(qPrintable(QString("point %1 differs").arg(k)));
         }
         QCOMPARE(memcmp(&x, &y, sizeof x), 0);
@@ -603,7 +604,8 @@ private slots:
             measureFile(root, "noise", noise);
             _measure r;
             int result = readMeasureData("noise", &r, MEA_PANEL);
-            QVERIFY2(result == 512 || (result >= 256 && result <= 511), qPrintable(QString::number(result)));
+            QVERIFY2(result == 512 || (result >= 256 && result <= 511),
+                     qPrintable(QString::number(result)));
             freeMeasureData(&r);
         }
         _listMeasures* list = readListMeasures(nullptr, MEA_PANEL);
@@ -638,7 +640,8 @@ private slots:
         QByteArray g = golden("measure_512_points");
         int tableStart = g.indexOf("\n0.0000\t") + 1;
         QList<QByteArray> lines = g.mid(tableStart).split('\n');
-        QCOMPARE(lines[299], QString::asprintf("%.4f\t13.2500", double(goldenCurrent(299, 511))).toLatin1());
+        QCOMPARE(lines[299],
+                 QString::asprintf("%.4f\t13.2500", double(goldenCurrent(299, 511))).toLatin1());
         // the file ends in the middle of point 299: "x.xxxx\t13" of "x.xxxx\t13.2500"
         QByteArray part = g.left(tableStart) + lines.mid(0, 299).join('\n') + '\n' +
                           lines[299].left(lines[299].indexOf('\t') + 3);

@@ -6,8 +6,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QProgressDialog>
+#include <QRegularExpression>
 #include <QSet>
 #include <QtTest>
 
@@ -28,7 +28,8 @@ class TestDataPanel : public QObject
         QVERIFY(root.write(path.constData(), QByteArray(name) + "\n"));
     }
 
-    static void model(const TestRoot& root, const char* dir, const char* file, const QByteArray& text)
+    static void model(const TestRoot& root, const char* dir, const char* file,
+                      const QByteArray& text)
     {
         QByteArray path = QByteArray(DIR_DATA_PANEL "/") + dir + "/" + file;
         QVERIFY(root.write(path.constData(), text));
@@ -354,7 +355,8 @@ private slots:
         QVERIFY2(QRegularExpression("^hit_240_240_\\d{1,2}$").match(name).hasMatch(),
                  qPrintable(name));
         for (int i = 0; i < 100; i++)
-            takeName(root, "solaria", QByteArray("hit_240_240_" + QByteArray::number(i)).constData());
+            takeName(root, "solaria",
+                     QByteArray("hit_240_240_" + QByteArray::number(i)).constData());
         QVERIFY(newNameFile("Hit 240", 240.0f, "solaria") == nullptr);
     }
 

@@ -4,8 +4,8 @@
 #include <QByteArray>
 #include <QObject>
 #include <QString>
-#include <sys/resource.h>
 #include <csignal>
+#include <sys/resource.h>
 
 // Helpers for the tests of the data files.
 
