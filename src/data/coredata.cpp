@@ -57,6 +57,16 @@ char* allocData(char* old, const char* text)
     return block;
 }
 
+void takeData(char** field, const char* text)
+{
+    if (field == nullptr)
+        return;
+    char* block = allocData(*field, text);
+    if (block == nullptr)
+        free(*field);
+    *field = block;
+}
+
 static const char* skipBlanks(const char* p)
 {
     while (*p != '\0' && isspace(static_cast<unsigned char>(*p)))

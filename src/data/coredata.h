@@ -287,6 +287,9 @@ int fwriteTagInt(FILE* stream, const char* tag, int value);
 // Gives a string field the value read from a file: "~" is null (old is left
 // alone), anything else reallocates old and copies the text.
 char* allocData(char* old, const char* text);
+// allocData for a field that may already hold a value read earlier in the
+// same file: a "~" frees the old block instead of leaving it behind.
+void takeData(char** field, const char* text);
 
 // Skips a note block: lines up to and including the first whose first
 // non-blank character is "<", or to the end of the file.
