@@ -1102,7 +1102,6 @@ private slots:
     // ---- pictures for review
     void screenshotsOfTheTypicalViews()
     {
-        QApplication::setFont(instrumentFont());
         // the module test screen: the plot over its bar of buttons
         QWidget screen;
         QWidget* bar = new QWidget(&screen);
