@@ -264,6 +264,7 @@ void Plotter::drawGrid(QPainter* painter)
         painter->drawText(QRect(QPoint(x - 50, bottom + 5), QPoint(x + 49, bottom + 19)),
                           Qt::AlignHCenter | Qt::AlignTop, tickLabel(label));
     }
+    painter->setPen(tickPen);
     painter->drawText(QRect(QPoint(right - 36, bottom - 10), QPoint(right + 63, bottom + 4)),
                       Qt::AlignHCenter | Qt::AlignTop, "V");
 
