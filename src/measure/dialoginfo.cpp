@@ -3,6 +3,7 @@
 #include "toolkit/embkeyboard.h"
 #include "toolkit/messagebox.h"
 
+#include <QEvent>
 #include <QDateTime>
 #include <QFormLayout>
 #include <QHBoxLayout>

@@ -9,6 +9,7 @@
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
 
+#include <QEvent>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QGridLayout>
