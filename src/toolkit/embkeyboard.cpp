@@ -65,8 +65,9 @@ QKeyPushButton* EmbKeyboard::createNewKey(QString text)
 
 static void widen(QKeyPushButton* key, int factor)
 {
-    key->setMinimumWidth(key->width() * factor);
-    key->setMaximumWidth(key->width() * factor);
+    int width = key->width() * factor;
+    key->setMinimumWidth(width);
+    key->setMaximumWidth(width);
 }
 
 void EmbKeyboard::createKeyboard()
