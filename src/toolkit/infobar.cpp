@@ -34,6 +34,10 @@ InfoBar::InfoBar(QWidget* parent)
     titleLabel = new QLabel(this);
     titleLabel->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
     usbLabel = new QLabel(this);
+    powerLabel->setObjectName("power");
+    clockLabel->setObjectName("clock");
+    titleLabel->setObjectName("title");
+    usbLabel->setObjectName("usb");
     setUsb(mounted);
 
     QHBoxLayout* box = new QHBoxLayout(this);
