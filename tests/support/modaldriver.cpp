@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QtTest>
 
-ModalDriver::ModalDriver() : last(nullptr)
+ModalDriver::ModalDriver()
 {
     connect(&timer, &QTimer::timeout, this, &ModalDriver::poll);
     timer.start(5);

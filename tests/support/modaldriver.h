@@ -4,6 +4,7 @@
 #include <QList>
 #include <QMessageBox>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QTimer>
 #include <functional>
@@ -51,7 +52,7 @@ private slots:
 
 private:
     QList<std::function<void(QWidget*)>> actions;
-    QWidget* last;
+    QPointer<QWidget> last; // a deleted window frees its address for the next one
     QTimer timer;
 };
 
