@@ -1,0 +1,54 @@
+#include "shell/startup.h"
+
+#include "data/datasetting.h"
+#include "data/direntry.h"
+#include "device/gpiopd.h"
+#include "platform/clock.h"
+#include "shell/language.h"
+#include "shell/orvia.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QPalette>
+#include <QPixmap>
+#include <QSplashScreen>
+#include <QTranslator>
+
+int startInstrument(int& argc, char** argv)
+{
+    QApplication app(argc, argv);
+
+    QFont font("helvetica", 38, QFont::Bold, false);
+    QApplication::setFont(font);
+
+    // the touch screen shows no pointer, and what no window covers is black
+    QApplication::setOverrideCursor(QCursor(Qt::BlankCursor));
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::Window, QColor(0, 0, 0, 255));
+    palette.setColor(QPalette::WindowText, Qt::white);
+    QApplication::setPalette(palette);
+
+    _configParam config;
+    readConfigFile(&config);
+
+    qTranslator = new QTranslator(nullptr);
+    loadTranslator(qTranslator, config.lang);
+    QCoreApplication::installTranslator(qTranslator);
+
+    QSplashScreen* splash = new QSplashScreen(QPixmap(), Qt::WindowFlags());
+    splash->setPixmap(QPixmap(":/image/splash.png"));
+    splash->show();
+    QCoreApplication::processEvents();
+
+    powerDeviceStart(0);
+    // the measuring board needs its time after the supply comes on
+    Clock::sleep(4);
+    checkDirData();
+
+    Orvia window;
+    window.show();
+    splash->finish(&window);
+    delete splash;
+
+    return app.exec();
+}

@@ -1,0 +1,45 @@
+#ifndef KRM_TOOLKIT_INFOBAR_H
+#define KRM_TOOLKIT_INFOBAR_H
+
+#include "data/coredata.h"
+
+#include <QWidget>
+
+class QLabel;
+class QTimer;
+
+// The strip at the top of nearly every screen: supply or battery picture,
+// the screen's title, the USB mark and the clock. While a screen with a bar
+// is open the bar watches the battery and stops the instrument with the
+// shut-down dialog when it is exhausted. Its key poller brings the hardware
+// keys to the screen.
+class InfoBar : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit InfoBar(QWidget* parent);
+
+    void setTitle(QString title);
+    void setUsb(bool shown);
+    void chooseDisplayClock(_displayClock mode);
+
+    QString clockText() const;
+    QString title() const;
+    bool usb() const { return usbShown; }
+
+public slots:
+    void visualClock();
+    void visualPowerSupply();
+    void attivaTimerPowerSupply();
+
+private:
+    _configParam config;
+    bool usbShown;
+    QLabel* powerLabel;
+    QLabel* clockLabel;
+    QLabel* titleLabel;
+    QLabel* usbLabel;
+    QTimer* powerTimer;
+};
+
+#endif

@@ -1,0 +1,25 @@
+#include "toolkit/messagebox.h"
+
+QMessageBox* newMessageBox(QWidget* parent, QMessageBox::Icon icon, const QString& title,
+                           const QString& text)
+{
+    QMessageBox* box = new QMessageBox(parent);
+    box->setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
+    box->setIcon(icon);
+    box->setWindowTitle(title);
+    box->setText(text);
+    box->setStandardButtons(QMessageBox::Ok);
+    box->setDefaultButton(QMessageBox::Ok);
+    return box;
+}
+
+int showMessageBox(QWidget* parent, QMessageBox::Icon icon, const QString& title,
+                   const QString& text, const QString& informative)
+{
+    QMessageBox* box = newMessageBox(parent, icon, title, text);
+    if (!informative.isEmpty())
+        box->setInformativeText(informative);
+    int result = box->exec();
+    delete box;
+    return result;
+}

@@ -1,0 +1,59 @@
+#ifndef KRM_TESTS_MODALDRIVER_H
+#define KRM_TESTS_MODALDRIVER_H
+
+#include <QList>
+#include <QMessageBox>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QTimer>
+#include <functional>
+
+class EmbKeyboard;
+
+// Meets the modal windows a screen opens, as the operator would: message
+// boxes are read (title, text, informative text, icon) and answered with a
+// button; the on-screen keyboard is typed on by touching its keys.
+// Actions are queued in the order the windows are expected; each runs on the
+// next modal window that is not the one it already handled.
+class ModalDriver : public QObject
+{
+    Q_OBJECT
+public:
+    struct Box {
+        QString title;
+        QString text;
+        QString informative;
+        QMessageBox::Icon icon;
+    };
+
+    ModalDriver();
+    ~ModalDriver() override;
+
+    // Expect a message box, record it and press the button.
+    void answerBox(QMessageBox::StandardButton button = QMessageBox::Ok);
+    // Expect the on-screen keyboard: record its title, clear the line, type
+    // the text key by key and touch ENTER (or ESC when accept is false).
+    void typeOnKeyboard(const QString& text, bool accept = true);
+    // Expect any modal window and run the action on it.
+    void onNext(std::function<void(QWidget*)> action);
+
+    // Touches keys of an open keyboard; usable from an action too.
+    static void touchKey(EmbKeyboard* keyboard, const QString& objectName);
+    static void type(EmbKeyboard* keyboard, const QString& text);
+
+    int pending() const { return actions.size(); }
+    QList<Box> boxes;
+    QStringList keyboardTitles;
+    QStringList keyboardInitial;
+
+private slots:
+    void poll();
+
+private:
+    QList<std::function<void(QWidget*)>> actions;
+    QPointer<QWidget> last; // a deleted window frees its address for the next one
+    QTimer timer;
+};
+
+#endif
