@@ -76,3 +76,18 @@ bool TestRoot::mkdir(const char* devicePath) const
 {
     return QDir().mkpath(path(devicePath));
 }
+
+bool TestRoot::installCatalogues() const
+{
+    QDir built(QStringLiteral(KRM_BINARY_DIR "/system/etc/flang"));
+    if (!mkdir("/etc/flang"))
+        return false;
+    const QStringList names = built.entryList(QDir::Files);
+    for (const QString& name : names) {
+        QString target = path("/etc/flang/") + name;
+        QFile::remove(target);
+        if (!QFile::copy(built.filePath(name), target))
+            return false;
+    }
+    return names.size() == 5;
+}

@@ -26,6 +26,8 @@ public:
     QByteArray read(const char* devicePath) const;
     bool exists(const char* devicePath) const;
     bool mkdir(const char* devicePath) const;
+    // Copies the compiled catalogues of the build into /etc/flang.
+    bool installCatalogues() const;
 
 private:
     QTemporaryDir dir;

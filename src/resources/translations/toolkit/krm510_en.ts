@@ -1,0 +1,354 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.0" language="en_US" sourcelanguage="it_IT">
+<context>
+    <name>DialogBrightness</name>
+    <message>
+        <location filename="../../../toolkit/dialogbright.cpp" line="+16"/>
+        <source>Luminosità</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>DialogSystem</name>
+    <message>
+        <location filename="../../../toolkit/dialogsystem.cpp" line="+36"/>
+        <source>Impostazione KRM510</source>
+        <translation>KRM510 settings</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Numero Seriale</source>
+        <translation>Serial number</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Versione SW</source>
+        <translation>SW version</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Versione Power</source>
+        <translation>Power version</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Data/Ora</source>
+        <translation>Date/Time</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Data</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Ora</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Visualizza</source>
+        <translation>Display</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Imposta data e ora</source>
+        <translation>Set date and time</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Ambiente</source>
+        <translation>Ambient</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Modulo</source>
+        <translation>Module</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Auto (EN 60904-5)</source>
+        <translation>Auto (EN 60904-5)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Manuale</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Temperatura</source>
+        <translation>Temperature</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Sens. Pyra</source>
+        <translation>Pyra sens.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <location line="+258"/>
+        <location line="+1"/>
+        <source>Irraggiamento Minimo</source>
+        <translation>Minimum irradiance</translation>
+    </message>
+    <message>
+        <location line="-256"/>
+        <source>Locale</source>
+        <translation>Local</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Rs-232 Serial Adapter</source>
+        <translation>Rs-232 Serial Adapter</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Bluetooth Adapter</source>
+        <translation>Bluetooth Adapter</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Unità Remota</source>
+        <translation>Remote unit</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Bluetooth Address (MAC)</source>
+        <translation>Bluetooth Address (MAC)</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Nome Dispositivo</source>
+        <translation>Device name</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Italiano</source>
+        <translation>Italian</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Inglese</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Francese</source>
+        <translation>French</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Tedesco</source>
+        <translation>German</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Spagnolo</source>
+        <translation>Spanish</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Lingua</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Luminosità</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Memoria occupata</source>
+        <translation>Used memory</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Applica</source>
+        <translation>Apply</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Conferma data e ora</source>
+        <translation>Confirm date and time</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+104"/>
+        <source>Bluetooh MAC (formato AA:BB:CC:DD:EE:FF)</source>
+        <translation>Bluetooth MAC (format AA:BB:CC:DD:EE:FF)</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Bluetooth MAC</source>
+        <translation>Bluetooth MAC</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>MAC deve essere formato da 48 bit.</source>
+        <translation>MAC must be made of 48 bits.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Nome Dispositivo Remoto</source>
+        <translation>Remote device name</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Bluetooth Nome Dispositivo Remoto</source>
+        <translation>Bluetooth remote device name</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Nome troppo lungo.</source>
+        <translation>Name too long.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Il nome non può essere nullo.</source>
+        <translation>The name cannot be empty.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Temperatura Manuale (°C)</source>
+        <translation>Manual temperature (°C)</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Temperatura manuale</source>
+        <translation>Manual temperature</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+53"/>
+        <source>Numero non valido.</source>
+        <translation>Invalid number.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Sens. Piranometro mV/(kW/m²)</source>
+        <translation>Pyranometer sens. mV/(kW/m²)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Sens. Piranometro</source>
+        <translation>Pyranometer sens.</translation>
+    </message>
+</context>
+<context>
+    <name>EmbKeyboard</name>
+    <message>
+        <location filename="../../../toolkit/embkeyboard.cpp" line="+42"/>
+        <location line="+55"/>
+        <location line="+54"/>
+        <location line="+23"/>
+        <location line="+46"/>
+        <location filename="../../../toolkit/qkeypushbutton.cpp" line="+45"/>
+        <source>CAPS</source>
+        <translation>CAPS</translation>
+    </message>
+    <message>
+        <location line="-175"/>
+        <location line="+75"/>
+        <location line="+84"/>
+        <location filename="../../../toolkit/qkeypushbutton.cpp" line="+0"/>
+        <source>LEFT</source>
+        <translation>LEFT</translation>
+    </message>
+    <message>
+        <location line="-156"/>
+        <location line="+73"/>
+        <location line="+86"/>
+        <location filename="../../../toolkit/qkeypushbutton.cpp" line="+1"/>
+        <source>RIGHT</source>
+        <translation>RIGHT</translation>
+    </message>
+    <message>
+        <location line="-156"/>
+        <location line="+37"/>
+        <location line="+122"/>
+        <location filename="../../../toolkit/qkeypushbutton.cpp" line="-3"/>
+        <source>BACK</source>
+        <translation>BACK</translation>
+    </message>
+    <message>
+        <location line="-156"/>
+        <location line="+52"/>
+        <location line="+96"/>
+        <location line="+42"/>
+        <location filename="../../../toolkit/qkeypushbutton.cpp" line="+0"/>
+        <source>ENTER</source>
+        <translation>ENTER</translation>
+    </message>
+    <message>
+        <location line="-169"/>
+        <location line="+125"/>
+        <location filename="../../../toolkit/qkeypushbutton.cpp" line="+3"/>
+        <source>ESC</source>
+        <translation>ESC</translation>
+    </message>
+    <message>
+        <location line="-86"/>
+        <location line="+35"/>
+        <location line="+1"/>
+        <location line="+22"/>
+        <location line="+54"/>
+        <location filename="../../../toolkit/qkeypushbutton.cpp" line="-2"/>
+        <source>.?123</source>
+        <translation>.?123</translation>
+    </message>
+    <message>
+        <location line="-53"/>
+        <location line="+58"/>
+        <location filename="../../../toolkit/qkeypushbutton.cpp" line="+6"/>
+        <location line="+4"/>
+        <source>ABC</source>
+        <translation>ABC</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <location filename="../../../toolkit/qkeypushbutton.cpp" line="-10"/>
+        <source>DEL</source>
+        <translation>DEL</translation>
+    </message>
+</context>
+<context>
+    <name>Plotter</name>
+    <message>
+        <location filename="../../../toolkit/plotter.cpp" line="+308"/>
+        <source>Ok</source>
+        <translation>Ok</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure</source>
+        <translation>Measured</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+61"/>
+        <source>STC</source>
+        <translation>STC</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <source>OPC</source>
+        <translation>OPC</translation>
+    </message>
+</context>
+</TS>
