@@ -4,6 +4,8 @@
 #include "device/ad7795.h"
 #include "device/monitor.h"
 #include "device/powerdevice.h"
+#include "measure/dialogcollegamenti.h"
+#include "measure/panelIV.h"
 #include "platform/clock.h"
 #include "platform/command.h"
 #include "shell/language.h"
@@ -86,6 +88,7 @@ Orvia::Orvia()
     Command::system("/home/myspi");
 
     connect(_buttonSystem, &QPushButton::clicked, this, &Orvia::goToSystemDialog);
+    connect(_buttonPanel, &QPushButton::clicked, this, &Orvia::goToPanelIV);
     showMaximized();
 }
 
@@ -151,12 +154,27 @@ void Orvia::goToSystemDialog()
     delete dialog;
 }
 
+// The wiring picture first; the module test opens only after "Continua".
+void Orvia::goToPanelIV()
+{
+    DialogCollegamenti* wiring = new DialogCollegamenti(this, MEA_PANEL);
+    const bool accepted = wiring->exec() == QDialog::Accepted;
+    delete wiring;
+    if (!accepted)
+        return;
+    PanelIV* panel = new PanelIV(this);
+    panel->exec();
+    delete panel;
+}
+
 void Orvia::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
     case Qt::Key_Return:
         if (_buttonSystem->hasFocus())
             goToSystemDialog();
+        else if (_buttonPanel->hasFocus())
+            goToPanelIV();
         break;
     case Qt::Key_Up:
         if (_buttonSystem->hasFocus())

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QPointer>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QtTest>
 
@@ -23,6 +24,9 @@ void ModalDriver::poll()
         return;
     QWidget* modal = QApplication::activeModalWidget();
     if (modal == nullptr || modal == last || !modal->isVisible())
+        return;
+    // a progress dialog is nobody's to answer: wait for what opens over it
+    if (qobject_cast<QProgressDialog*>(modal) != nullptr)
         return;
     last = modal;
     std::function<void(QWidget*)> action = actions.takeFirst();

@@ -1,0 +1,180 @@
+#include "measure/refpanel.h"
+
+#include "data/datapanel.h"
+#include "toolkit/infobar.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <cstring>
+
+namespace {
+
+QVBoxLayout* labelledList(const QString& label, QListWidget* list)
+{
+    QVBoxLayout* column = new QVBoxLayout;
+    column->addWidget(new QLabel(label));
+    column->addWidget(list);
+    return column;
+}
+
+QString featureRow(const char* name, float value, int decimals, const char* unit)
+{
+    return QString(name) + " \n" + QString::number(static_cast<double>(value), 'f', decimals) +
+           unit;
+}
+
+} // namespace
+
+ReferencePanel::ReferencePanel(QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowTitleHint),
+      _selectedModel(nullptr), _selectedBrand(nullptr), _modelChosen(false),
+      _brandCursor(nullptr), _brandHead(nullptr), _modelCursor(nullptr), _modelHead(nullptr)
+{
+    setObjectName("ReferencePanel");
+    std::memset(_brandDirName, 0, sizeof _brandDirName);
+    std::memset(_modelFileName, 0, sizeof _modelFileName);
+    std::memset(&_feature, 0, sizeof _feature);
+
+    _infoBar = new InfoBar(this);
+    _infoBar->setTitle(tr("Modulo di Riferimento"));
+    _listWidgetBrand = new QListWidget;
+    _listWidgetBrand->setObjectName("Marca");
+    _listWidgetModel = new QListWidget;
+    _listWidgetModel->setObjectName("Modello");
+    _listWidgetFeature = new QListWidget;
+    _listWidgetFeature->setObjectName("Caratteristiche");
+
+    _buttonConfirm = new QPushButton(QIcon(":/icon/confirm.png"), tr("Conferma"));
+    _buttonConfirm->setObjectName("Conferma");
+    _buttonConfirm->setEnabled(false);
+    // "Modifica" and "Nuovo Modello" (the module editor and the creation of a
+    // model) take their place between Confirm and Exit once the module
+    // archive screens are part of the program.
+    _buttonExit = new QPushButton(QIcon(":/icon/exit.png"), tr("Exit"));
+    _buttonExit->setObjectName("Exit");
+    _buttonExit->setAutoDefault(true);
+    _buttonExit->setDefault(true);
+
+    QHBoxLayout* lists = new QHBoxLayout;
+    lists->addLayout(labelledList(tr("Marca"), _listWidgetBrand));
+    lists->addLayout(labelledList(tr("Modello"), _listWidgetModel));
+    lists->addLayout(labelledList(tr("Caratteristiche"), _listWidgetFeature));
+    QHBoxLayout* buttons = new QHBoxLayout;
+    buttons->addWidget(_buttonConfirm);
+    buttons->addWidget(_buttonExit);
+    QVBoxLayout* page = new QVBoxLayout(this);
+    page->addWidget(_infoBar);
+    page->addLayout(lists);
+    page->addLayout(buttons);
+
+    connect(_buttonConfirm, &QPushButton::clicked, this, &ReferencePanel::goToConfirmPanel);
+    connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
+    connect(_listWidgetBrand, &QListWidget::itemSelectionChanged, this,
+            &ReferencePanel::showModel);
+    connect(_listWidgetModel, &QListWidget::itemSelectionChanged, this,
+            &ReferencePanel::showCharacteristics);
+    showMaximized();
+    readBrandPanel();
+}
+
+ReferencePanel::~ReferencePanel()
+{
+    closeListModelBrand(_modelHead);
+    closeListBrandPanel(_brandHead);
+}
+
+void ReferencePanel::readBrandPanel()
+{
+    _listWidgetBrand->clear();
+    _brandHead = readListBrandPanel(this);
+    _brandCursor = _brandHead;
+    if (_brandHead == nullptr)
+        _listWidgetBrand->addItem(tr("Vuoto"));
+    for (_listBrand* b = _brandHead; b != nullptr; b = b->next)
+        _listWidgetBrand->addItem(QString::fromLocal8Bit(b->name));
+    _brandCursor = _brandHead;
+}
+
+void ReferencePanel::showModel()
+{
+    if (_brandHead == nullptr)
+        return;
+    _brandCursor = _brandHead;
+    // the model list goes first, so that its selection signal finds no list
+    _modelCursor = _modelHead = closeListModelBrand(_modelHead);
+    _listWidgetModel->clear();
+    _listWidgetFeature->clear();
+    QListWidgetItem* item = _listWidgetBrand->currentItem();
+    _listBrand* brand =
+        item == nullptr ? nullptr : findBrandPanel(_brandHead, item->text().toLocal8Bit().constData());
+    if (brand != nullptr) {
+        _brandCursor = brand;
+        std::memset(_brandDirName, 0, sizeof _brandDirName);
+        std::strncpy(_brandDirName, brand->dir, sizeof _brandDirName - 1);
+        _modelHead = readListModelPanel(_brandDirName);
+        _modelCursor = _modelHead;
+        if (_modelHead == nullptr)
+            _listWidgetModel->addItem(tr("Vuoto"));
+        for (_listModel* m = _modelHead; m != nullptr; m = m->next)
+            _listWidgetModel->addItem(QString::fromLocal8Bit(m->name));
+    }
+    _modelChosen = false;
+    _buttonConfirm->setEnabled(false);
+}
+
+void ReferencePanel::showCharacteristics()
+{
+    if (_modelHead == nullptr)
+        return;
+    _modelCursor = _modelHead;
+    _listWidgetFeature->clear();
+    QListWidgetItem* item = _listWidgetModel->currentItem();
+    _listModel* model =
+        item == nullptr ? nullptr : findModelPanel(_modelHead, item->text().toLocal8Bit().constData());
+    if (model == nullptr)
+        return;
+    _modelCursor = model;
+    std::memset(_modelFileName, 0, sizeof _modelFileName);
+    std::strncpy(_modelFileName, model->file, sizeof _modelFileName - 1);
+    getPanelFeature(_brandDirName, _modelFileName, &_feature);
+    _listWidgetFeature->addItem(featureRow("Pmax", _feature.pmax, 1, " W"));
+    _listWidgetFeature->addItem(featureRow("Vmpp", _feature.vmpp, 2, " V"));
+    _listWidgetFeature->addItem(featureRow("Impp", _feature.impp, 2, " A"));
+    _listWidgetFeature->addItem(featureRow("Voc", _feature.voc, 2, " V"));
+    _listWidgetFeature->addItem(featureRow("Isc", _feature.isc, 2, " A"));
+    _modelChosen = true;
+    _buttonConfirm->setEnabled(true);
+}
+
+void ReferencePanel::goToConfirmPanel()
+{
+    _selectedBrand = _brandCursor;
+    _selectedModel = _modelCursor;
+    accept();
+}
+
+void ReferencePanel::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+        if (_buttonExit->hasFocus())
+            reject();
+        else if (_buttonConfirm->hasFocus())
+            goToConfirmPanel();
+        else if (_listWidgetBrand->hasFocus())
+            showModel();
+        else if (_listWidgetModel->hasFocus())
+            showCharacteristics();
+        break;
+    case Qt::Key_Escape:
+        reject();
+        break;
+    default:
+        break;
+    }
+    QWidget::keyPressEvent(event);
+}
