@@ -183,7 +183,8 @@ PanelIV::PanelIV(QWidget* parent)
     displayClock();
 
     _buttonStart->setFocus();
-    showMaximized();
+    // maximized when shown: exec() shows it, and only then does it become modal
+    setWindowState(windowState() | Qt::WindowMaximized);
 }
 
 PanelIV::~PanelIV()

@@ -77,7 +77,8 @@ ReferencePanel::ReferencePanel(QWidget* parent)
             &ReferencePanel::showModel);
     connect(_listWidgetModel, &QListWidget::itemSelectionChanged, this,
             &ReferencePanel::showCharacteristics);
-    showMaximized();
+    // maximized when shown: exec() shows it, and only then does it become modal
+    setWindowState(windowState() | Qt::WindowMaximized);
     readBrandPanel();
 }
 

@@ -43,6 +43,7 @@ private slots:
         configure(root);
         QVERIFY(world(sim, 850, 45));
         PanelIV panel(nullptr);
+        panel.show();
         QVERIFY(!child<QPushButton>(&panel, "Salva")->isEnabled());
         QCOMPARE(entries(measuresMenu(&panel)), QStringList());
         touch(&panel, "Start");
@@ -83,6 +84,7 @@ private slots:
         ModalDriver driver;
         driver.answerBox();
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         QCOMPARE(driver.boxes.size(), 1);
         QCOMPARE(driver.boxes[0].title, QString("Power Device"));
@@ -101,6 +103,7 @@ private slots:
         QVERIFY(sim.command("board hsink 64.9"));
         ModalDriver driver;
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         QCOMPARE(driver.boxes.size(), 0);
         QVERIFY(sim.boardCommands().join(' ').contains("mea_brask"));
@@ -129,6 +132,7 @@ private slots:
         QVERIFY(sim.command("set pt100 open"));
         ModalDriver driver;
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         QCOMPARE(driver.boxes.size(), 0);
         QVERIFY(panel._measureDone);
@@ -146,6 +150,7 @@ private slots:
         ModalDriver driver;
         driver.answerBox();
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         QCOMPARE(driver.boxes.size(), 1);
         QCOMPARE(driver.boxes[0].title, QString("Misure Ambiente"));
@@ -165,6 +170,7 @@ private slots:
         driver.answerBox();
         driver.answerBox();
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         QTest::qWait(20);
         QCOMPARE(driver.boxes.size(), 1);
@@ -182,6 +188,7 @@ private slots:
         ModalDriver driver;
         driver.answerBox();
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         QCOMPARE(driver.boxes.size(), 1);
         QCOMPARE(driver.boxes[0].title, QString("Misure Ambiente"));
@@ -200,6 +207,7 @@ private slots:
         QVERIFY(ok);
         ModalDriver driver;
         PanelIV panel(nullptr);
+        panel.show();
         panel._config.irrmin = g;
         touch(&panel, "Start");
         QCOMPARE(driver.boxes.size(), 0);
@@ -224,6 +232,7 @@ private slots:
         QVERIFY(world(sim, 850, 45));
         ModalDriver driver;
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         const QVector<QPointF> curve = panel.plotter()->curves().value(0);
         QVERIFY(sim.setIrradiance(300));
@@ -246,6 +255,7 @@ private slots:
         driver.answerBox(); // the irradiance delta
         ProgressWatch watch("Misura Modulo...", [&] { sim.setIrradiance(400); });
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         QVERIFY(watch.done);
         QCOMPARE(driver.boxes.size(), 1);
@@ -264,6 +274,7 @@ private slots:
         driver.answerBox();
         ProgressWatch watch("Misura Modulo...", [&] { sim.command("set pt100 open"); });
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         QCOMPARE(driver.boxes.size(), 1);
         QCOMPARE(driver.boxes[0].text, QString("Temperatura non rilevata."));
@@ -284,6 +295,7 @@ private slots:
         driver.answerBox();
         ProgressWatch watch("Misura Modulo...", [&] { sim.setIrradiance(786); });
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         QCOMPARE(rndIrradiation(panel._irradiance), 800.0f);
         QCOMPARE(driver.boxes.size(), 1);
@@ -303,6 +315,7 @@ private slots:
         ModalDriver driver;
         ProgressWatch watch("Misura Modulo...", [&] { sim.setIrradiance(685); });
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         QVERIFY(watch.done);
         QVERIFY(panel._irradiance <= 700.0f);
@@ -340,6 +353,7 @@ private slots:
         ModalDriver driver;
         driver.answerBox();
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         QCOMPARE(driver.boxes.size(), 1);
         QCOMPARE(driver.boxes[0].title, QString("Power Device"));
@@ -355,6 +369,7 @@ private slots:
         QVERIFY(world(sim, 850, 45));
         ModalDriver driver;
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         QVERIFY(panel._measureDone);
         QVERIFY(sim.command("board status 1"));
@@ -383,6 +398,7 @@ private slots:
         ModalDriver driver;
         driver.answerBox();
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         QCOMPARE(driver.boxes.size(), 1);
         QCOMPARE(driver.boxes[0].text, QString("Problema di connessione al Power Device."));
@@ -411,6 +427,7 @@ private slots:
             QTest::qWait(20);
         });
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         QVERIFY(watch.done);
         QCOMPARE(seen, QStringList{"DialogShutDown"});
@@ -437,6 +454,7 @@ private slots:
         QVERIFY(world(sim, 850, 45));
         ModalDriver driver;
         PanelIV panel(nullptr);
+        panel.show();
         touch(&panel, "Start");
         touch(&panel, "Start");
         QCOMPARE(driver.boxes.size(), 0);
@@ -463,6 +481,7 @@ private slots:
         ModalDriver driver;
         driver.answerBox();
         PanelIV panel(nullptr);
+        panel.show();
         QCOMPARE(child<QPushButton>(&panel, "Confronto")->text(), QString("Comparison"));
         touch(&panel, "Start");
         QCOMPARE(driver.boxes.size(), 1);
@@ -490,6 +509,7 @@ private slots:
         TestRoot root(0.01);
         configure(root, [mode](_configParam& c) { c.tclock = static_cast<_displayClock>(mode); });
         PanelIV panel(nullptr);
+        panel.show();
         QLabel* clock = child<QLabel>(&panel, "clock");
         QVERIFY2(QRegularExpression(pattern).match(clock->text()).hasMatch(),
                  qPrintable(clock->text()));
@@ -509,6 +529,7 @@ private slots:
         configure(root);
         QVERIFY(sim.setAdapter(true));
         PanelIV panel(nullptr);
+        panel.show();
         QLabel* supply = child<QLabel>(&panel, "supply");
         QTRY_COMPARE(supply->pixmap().toImage(), QPixmap(":/icon/vac-adapter.png").toImage());
         QVERIFY(sim.setAdapter(false));
