@@ -711,6 +711,13 @@ void PanelIV::displayPowerSupply()
     _powerRestored = true;
 }
 
+// The screen's own focus widget: keys come from the key poller whether or not
+// the window has been made active again after a dialog closed.
+bool PanelIV::focused(const QWidget* widget) const
+{
+    return focusWidget() == widget;
+}
+
 void PanelIV::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
@@ -718,13 +725,13 @@ void PanelIV::keyPressEvent(QKeyEvent* event)
         reject();
         break;
     case Qt::Key_Return:
-        if (_buttonExit->hasFocus())
+        if (focused(_buttonExit))
             reject();
-        else if (_buttonStart->hasFocus())
+        else if (focused(_buttonStart))
             measurePanel();
-        else if (_buttonReference->hasFocus())
+        else if (focused(_buttonReference))
             goToReferencePanel();
-        else if (_buttonSave->hasFocus())
+        else if (focused(_buttonSave))
             goToSavePanelAcquired();
         // never checkable: these tests do nothing, as on the instrument
         if (_actionPanelData->isChecked())
@@ -734,31 +741,31 @@ void PanelIV::keyPressEvent(QKeyEvent* event)
         if (_actionPowerStc->isChecked())
             displayPowerCurveSTC();
         // a rejected save form opens a second time: the button keeps the focus
-        if (_buttonSave->hasFocus())
+        if (focused(_buttonSave))
             goToSavePanelAcquired();
         break;
     case Qt::Key_Down:
-        if (_buttonStart->hasFocus())
+        if (focused(_buttonStart))
             _buttonReference->setFocus();
-        else if (_buttonReference->hasFocus())
+        else if (focused(_buttonReference))
             _buttonMeasures->setFocus();
-        else if (_buttonMeasures->hasFocus())
+        else if (focused(_buttonMeasures))
             (_buttonSave->isEnabled() ? _buttonSave : _buttonExit)->setFocus();
-        else if (_buttonSave->hasFocus())
+        else if (focused(_buttonSave))
             _buttonExit->setFocus();
-        else if (_buttonExit->hasFocus())
+        else if (focused(_buttonExit))
             _buttonStart->setFocus();
         break;
     case Qt::Key_Up:
-        if (_buttonStart->hasFocus())
+        if (focused(_buttonStart))
             _buttonExit->setFocus();
-        else if (_buttonExit->hasFocus())
+        else if (focused(_buttonExit))
             (_buttonSave->isEnabled() ? _buttonSave : _buttonMeasures)->setFocus();
-        else if (_buttonSave->hasFocus())
+        else if (focused(_buttonSave))
             _buttonMeasures->setFocus();
-        else if (_buttonMeasures->hasFocus())
+        else if (focused(_buttonMeasures))
             _buttonReference->setFocus();
-        else if (_buttonReference->hasFocus())
+        else if (focused(_buttonReference))
             _buttonStart->setFocus();
         break;
     default:

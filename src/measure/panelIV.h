@@ -94,6 +94,7 @@ private:
     void drawCurve(int id, const _ramp_iv* axes, const _ramp_iv* curve);
     void togglePowerCurve(bool stc);
     void failMeasure(QMessageBox* box, _pdError error);
+    bool focused(const QWidget* widget) const;
 
     Plotter* _plotter;
     QPushButton* _buttonStart;

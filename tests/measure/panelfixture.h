@@ -159,6 +159,46 @@ private:
     QTimer timer;
 };
 
+// A hardware key pressed and let go as soon as the screen's key poller has
+// sent it to the window target: the poll sends one key press per tick while
+// a key is down. Key pollers of other windows may see it too, as on the
+// instrument.
+class KeyRelease : public QObject
+{
+public:
+    KeyRelease(const SimInstrument& sim, const char* key, QWidget* target)
+        : sim(sim), key(key), target(target)
+    {
+        qApp->installEventFilter(this);
+    }
+    bool eventFilter(QObject* obj, QEvent* event) override
+    {
+        if (!seen && event->type() == QEvent::KeyPress && obj->inherits("GpioKeyboard") &&
+            static_cast<QWidget*>(obj)->window() == target) {
+            seen = true;
+            sim.releaseKey(key);
+        }
+        return false;
+    }
+    bool seen = false;
+
+private:
+    const SimInstrument& sim;
+    const char* key;
+    QWidget* target;
+};
+
+inline bool hardKey(const SimInstrument& sim, const char* key, QWidget* target)
+{
+    KeyRelease release(sim, key, target);
+    if (!sim.pressKey(key))
+        return false;
+    QDeadlineTimer deadline(5000);
+    while (!release.seen && !deadline.hasExpired())
+        QTest::qWait(5);
+    return release.seen;
+}
+
 // Chooses a module in the open reference dialog by touching its rows and
 // "Conferma".
 inline void chooseInReferenceDialog(QWidget* w, const QString& brand, const QString& model)

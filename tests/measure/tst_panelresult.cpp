@@ -61,6 +61,8 @@ class TestPanelResult : public QObject
         QVERIFY(addModule("Simul", "simul", "SIM 250", "sim_250", simulatedSheet(3)));
         _panelFeature hot = simulatedSheet(3);
         hot.noct = 60;
+        hot.kisc = 0.08f;
+        hot.kvoc = -0.40f;
         QVERIFY(addModule("Simul", "simul", "SIM 250 HOT", "sim_250_hot", hot));
     }
 
@@ -207,7 +209,7 @@ private slots:
         QByteArray saved = root.read(("/krm510data/datameapanel/" + files[0]).toLatin1());
         _measure m;
         std::memset(&m, 0, sizeof m);
-        QCOMPARE(readMeasureData(files[0].toLatin1().constData(), &m, MEA_PANEL), 0);
+        QCOMPARE(readMeasureData(files[0].toLatin1().constData(), &m, MEA_PANEL), 511);
         QCOMPARE(m.mdegy, 2.0f);
         QCOMPARE(m.mdegp, 10.0f);
         QCOMPARE(m.mcomp, 1);
@@ -256,7 +258,7 @@ private slots:
         QCOMPARE(files.size(), 1);
         _measure m;
         std::memset(&m, 0, sizeof m);
-        QCOMPARE(readMeasureData(files[0].toLatin1().constData(), &m, MEA_PANEL), 0);
+        QCOMPARE(readMeasureData(files[0].toLatin1().constData(), &m, MEA_PANEL), 511);
         QCOMPARE(m.mcomp, 0);
         QCOMPARE(m.spmax, 0.0f);
         QCOMPARE(m.sisc, 0.0f);
@@ -432,10 +434,13 @@ private slots:
         QVERIFY(panel._measureDone);
         QVERIFY(child<QPushButton>(&panel, "Salva")->isEnabled());
         // Return on the focused button: the form, left, opens a second time
+        panel.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&panel));
         child<QPushButton>(&panel, "Salva")->setFocus();
+        QVERIFY(child<QPushButton>(&panel, "Salva")->hasFocus());
         driver.onNext(leave);
         driver.onNext(leave);
-        QTest::keyClick(&panel, Qt::Key_Return);
+        QVERIFY(hardKey(sim, "return", &panel));
         QCOMPARE(forms.size(), 3);
         QCOMPARE(driver.pending(), 0);
         QCOMPARE(QDir(root.path("/krm510data/datameapanel")).entryList(QDir::Files).size(), 0);
@@ -484,7 +489,7 @@ private slots:
         QCOMPARE(files.size(), 1);
         _measure m;
         std::memset(&m, 0, sizeof m);
-        QCOMPARE(readMeasureData(files[0].toLatin1().constData(), &m, MEA_PANEL), 0);
+        QCOMPARE(readMeasureData(files[0].toLatin1().constData(), &m, MEA_PANEL), 511);
         QCOMPARE(QByteArray(m.mcom), QByteArray("tetto sud"));
         QCOMPARE(m.mnpan, 1);
         QCOMPARE(m.mprobe, int(PROBE_MODULE));
