@@ -476,7 +476,8 @@ private slots:
         QVERIFY(world(sim, 850, 45));
         if (qTranslator == nullptr)
             qTranslator = new QTranslator(qApp);
-        loadTranslator(qTranslator, LANG_EN);
+        QVERIFY(loadTranslator(qTranslator, LANG_EN));
+        QCoreApplication::installTranslator(qTranslator);
         QVERIFY(sim.command("board status 3"));
         ModalDriver driver;
         driver.answerBox();

@@ -205,4 +205,238 @@
         <translation>Recharge the battery.</translation>
     </message>
 </context>
+<context>
+    <name>PanelIV</name>
+    <message>
+        <location filename="../../../measure/panelIV.cpp" line="+96"/>
+        <source>Panel IV</source>
+        <translation>Panel IV</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Confronto</source>
+        <translation>Comparison</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure</source>
+        <translation>Measured</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Salva</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>Modulo</source>
+        <translation>Module</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza OPC</source>
+        <translation>OPC power</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza STC</source>
+        <translation>STC power</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Potenza</source>
+        <translation>Power</translation>
+    </message>
+    <message>
+        <location line="+44"/>
+        <source>Misura Modulo...</source>
+        <translation>Module measure...</translation>
+    </message>
+    <message>
+        <location line="+49"/>
+        <source>Generazione Grafico...</source>
+        <translation>Drawing the graph...</translation>
+    </message>
+    <message>
+        <location line="+35"/>
+        <source>Power Device</source>
+        <translation>Power Device</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Tensione Eccessiva.</source>
+        <translation>Excessive voltage value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente Eccessiva.</source>
+        <translation>Excessive current value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Potenza Eccessiva.</source>
+        <translation>Excessive power value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Energia Eccessiva.</source>
+        <translation>Excessive energy value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Polarità Inversa.</source>
+        <translation>Reverse polarity.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Negativo Flottante.</source>
+        <translation>Floating negative.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Tensione troppo bassa.</source>
+        <translation>Voltage too low.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente troppo bassa.</source>
+        <translation>Current too low.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Attendere raffreddamento...
+Strumento surriscaldato.
+Attendere prima di riprendere i test.</source>
+        <translation>Wait for cooling...
+Instrument overheated.
+Wait before resuming the tests.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Eseguito ripristino modulo potenza.</source>
+        <translation>Power module restore done.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Problema di connessione al Power Device.</source>
+        <translation>Problem of wiring to the power device.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Acquisizione Misure Ambiente</source>
+        <translation>Environment measures</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>Unità Remota</source>
+        <translation>Remote Unit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Non connessa o assente.</source>
+        <translation>Not connected or missing.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+3"/>
+        <source>Misure Ambiente</source>
+        <translation>Environment</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Temperatura non rilevata.</source>
+        <translation>Temperature not detected.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Irradiazione non rilevata.</source>
+        <translation>Solar radiation value not detected.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Irraggiamento insufficiente (&lt; </source>
+        <translation>Insufficient irradiance (&lt; </translation>
+    </message>
+    <message>
+        <location line="+51"/>
+        <source>Delta Irraggiamento Elevato</source>
+        <translation>Highly variable solar radiation</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Valori STC non disponibili.
+Ripetere.</source>
+        <translation>STC values are not available.
+Repeat.</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>Temperatura fuori limite.</source>
+        <translation>Outside temperature limit.</translation>
+    </message>
+    <message>
+        <location line="+126"/>
+        <source>Misura Salvata.</source>
+        <translation>Saved measure.</translation>
+    </message>
+    <message>
+        <location line="+54"/>
+        <source>Misura</source>
+        <translation>Measure</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Nome della misura già presente.</source>
+        <translation>The measure name already exists.</translation>
+    </message>
+</context>
+<context>
+    <name>ReferencePanel</name>
+    <message>
+        <location filename="../../../measure/refpanel.cpp" line="+43"/>
+        <source>Modulo di Riferimento</source>
+        <translation>Reference module</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Conferma</source>
+        <translation>Confirm</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Marca</source>
+        <translation>Brand</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modello</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Caratteristiche</source>
+        <translation>Characteristics</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <location line="+25"/>
+        <source>Vuoto</source>
+        <translation>Empty</translation>
+    </message>
+</context>
 </TS>

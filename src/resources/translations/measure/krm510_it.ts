@@ -205,4 +205,238 @@
         <translation>Ricaricare la batteria.</translation>
     </message>
 </context>
+<context>
+    <name>PanelIV</name>
+    <message>
+        <location filename="../../../measure/panelIV.cpp" line="+96"/>
+        <source>Panel IV</source>
+        <translation>Panel IV</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Confronto</source>
+        <translation>Confronto</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure</source>
+        <translation>Misure</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Salva</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>Modulo</source>
+        <translation>Modulo</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza OPC</source>
+        <translation>Potenza OPC</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza STC</source>
+        <translation>Potenza STC</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Potenza</source>
+        <translation>Potenza</translation>
+    </message>
+    <message>
+        <location line="+44"/>
+        <source>Misura Modulo...</source>
+        <translation>Misura Modulo...</translation>
+    </message>
+    <message>
+        <location line="+49"/>
+        <source>Generazione Grafico...</source>
+        <translation>Generazione Grafico...</translation>
+    </message>
+    <message>
+        <location line="+35"/>
+        <source>Power Device</source>
+        <translation>Power Device</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Tensione Eccessiva.</source>
+        <translation>Tensione Eccessiva.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente Eccessiva.</source>
+        <translation>Corrente Eccessiva.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Potenza Eccessiva.</source>
+        <translation>Potenza Eccessiva.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Energia Eccessiva.</source>
+        <translation>Energia Eccessiva.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Polarità Inversa.</source>
+        <translation>Polarità Inversa.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Negativo Flottante.</source>
+        <translation>Negativo Flottante.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Tensione troppo bassa.</source>
+        <translation>Tensione troppo bassa.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente troppo bassa.</source>
+        <translation>Corrente troppo bassa.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Attendere raffreddamento...
+Strumento surriscaldato.
+Attendere prima di riprendere i test.</source>
+        <translation>Attendere raffreddamento...
+Strumento surriscaldato.
+Attendere prima di riprendere i test.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Eseguito ripristino modulo potenza.</source>
+        <translation>Eseguito ripristino modulo potenza.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Problema di connessione al Power Device.</source>
+        <translation>Problema di connessione al Power Device.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Acquisizione Misure Ambiente</source>
+        <translation>Acquisizione Misure Ambiente</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>Unità Remota</source>
+        <translation>Unità Remota</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Non connessa o assente.</source>
+        <translation>Non connessa o assente.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+3"/>
+        <source>Misure Ambiente</source>
+        <translation>Misure Ambiente</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Temperatura non rilevata.</source>
+        <translation>Temperatura non rilevata.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Irradiazione non rilevata.</source>
+        <translation>Irradiazione non rilevata.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Irraggiamento insufficiente (&lt; </source>
+        <translation>Irraggiamento insufficiente (&lt; </translation>
+    </message>
+    <message>
+        <location line="+51"/>
+        <source>Delta Irraggiamento Elevato</source>
+        <translation>Delta Irraggiamento Elevato</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Valori STC non disponibili.
+Ripetere.</source>
+        <translation>Valori STC non disponibili.
+Ripetere.</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>Temperatura fuori limite.</source>
+        <translation>Temperatura fuori limite.</translation>
+    </message>
+    <message>
+        <location line="+126"/>
+        <source>Misura Salvata.</source>
+        <translation>Misura Salvata.</translation>
+    </message>
+    <message>
+        <location line="+54"/>
+        <source>Misura</source>
+        <translation>Misura</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Nome della misura già presente.</source>
+        <translation>Nome della misura già presente.</translation>
+    </message>
+</context>
+<context>
+    <name>ReferencePanel</name>
+    <message>
+        <location filename="../../../measure/refpanel.cpp" line="+43"/>
+        <source>Modulo di Riferimento</source>
+        <translation>Modulo di Riferimento</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Conferma</source>
+        <translation>Conferma</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Marca</source>
+        <translation>Marca</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modello</source>
+        <translation>Modello</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Caratteristiche</source>
+        <translation>Caratteristiche</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <location line="+25"/>
+        <source>Vuoto</source>
+        <translation>Vuoto</translation>
+    </message>
+</context>
 </TS>
