@@ -93,6 +93,7 @@ private slots:
         QVERIFY(!sim.boardCommands().join(' ').contains("mea_brask"));
         QVERIFY(!panel._measureDone);
         QVERIFY(!panel._curveValid);
+        saveScreenshot(&panel, "panel_after_cooling_box");
     }
     void heatSinkAt64_9RunsTheRamp()
     {
@@ -305,6 +306,7 @@ private slots:
         QVERIFY(!panel._stcValid);
         QVERIFY(panel._measureDone); // the curve stays and may be saved
         QCOMPARE(panel.plotter()->curves().value(0).size(), RAMP_POINTS);
+        saveScreenshot(&panel, "panel_after_irradiance_delta_box");
     }
     void irradianceFallFrom700To685KeepsTheStandardValues()
     {
@@ -387,6 +389,7 @@ private slots:
         QCOMPARE(entries(measuresMenu(&panel)), QStringList());
         // the plot was cleared when the first reading had passed
         QVERIFY(panel.plotter()->curves().isEmpty());
+        saveScreenshot(&panel, "panel_after_board_error_box");
     }
     void silentBoardIsALostConnection()
     {
