@@ -79,6 +79,8 @@ private slots:
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
+        // resting at 65: the heat sink cools towards the ambient
+        QVERIFY(sim.setAmbientTemperature(65));
         QVERIFY(sim.command("board hsink 65"));
         QVERIFY(sim.command("board log clear"));
         ModalDriver driver;
@@ -101,6 +103,7 @@ private slots:
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
+        QVERIFY(sim.setAmbientTemperature(64.9));
         QVERIFY(sim.command("board hsink 64.9"));
         ModalDriver driver;
         PanelIV panel(nullptr);

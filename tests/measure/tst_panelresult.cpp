@@ -360,15 +360,12 @@ private slots:
         QVERIFY(!panel.plotter()->isViewPassTest());
         saveScreenshot(&panel, "panel_temperature_out_of_limits");
     }
-    void temperatureLimitsThemselvesPass_data()
+    void temperatureLimit100PassesTheTranslation() { temperatureLimitPasses(100.0f); }
+    void temperatureLimitMinus20PassesTheTranslation() { temperatureLimitPasses(-20.0f); }
+
+private:
+    void temperatureLimitPasses(float t)
     {
-        QTest::addColumn<float>("t");
-        QTest::newRow("100.0") << 100.0f;
-        QTest::newRow("-20.0") << -20.0f;
-    }
-    void temperatureLimitsThemselvesPass()
-    {
-        QFETCH(float, t);
         TestRoot root(0.01);
         SimInstrument sim(root);
         configure(root, [t](_configParam& c) {
@@ -388,6 +385,8 @@ private slots:
         QCOMPARE(panel._temperature, t);
         QVERIFY(panel.plotter()->isViewPassTest());
     }
+
+private slots:
     void exitAfterAChoiceLeavesTheScreenAsItWas()
     {
         TestRoot root(0.01);
