@@ -215,6 +215,7 @@ private slots:
         QVERIFY(sim.command("remote reply \\x01\\x02\\x03 : VER x.y.z\\r\\n"));
         QVERIFY(sim.command("remote reply \\xff\\xfe\\x00KRM510RU : VER 2.1.0\\r\\n"));
         QVERIFY(sim.command("remote reply " + QByteArray(1500, 'Z') + " : VER 2.1.0"));
+        setLocalPyranometer();
         RemoteUnit unit(LINK_USB, 10.54f);
         QCOMPARE(unit.connect(), 1);
         QCOMPARE(unit.version2, 0);
@@ -252,7 +253,7 @@ private slots:
         ok = 0;
         QVERIFY(std::fabs(unit.getTempAmbiente(&ok) - 18.4f) < 0.06f);
         QCOMPARE(ok, char(1));
-        QVERIFY(unitLog(sim).endsWith(QList<QByteArray>({"IRR", "TEMPCELL", "TEMPENV"})));
+        QCOMPARE(unitLog(sim).mid(5), QList<QByteArray>({"IRR", "TEMPCELL", "TEMPENV"}));
     }
 
     void versionTwoDashesMeanNoValue()
@@ -316,8 +317,8 @@ private slots:
         ok = 0;
         QVERIFY(std::fabs(unit.getTempAmbiente(&ok) - 15.0f) < 0.05f);
         QCOMPARE(ok, char(1));
-        QVERIFY(unitLog(sim).endsWith(QList<QByteArray>(
-            {"ADCPIRANO", "ADCPANEL", "ADCREF", "ADCAMBIENT", "ADCREF"})));
+        QCOMPARE(unitLog(sim).mid(5), QList<QByteArray>({"ADCPIRANO", "ADCPANEL", "ADCREF",
+                                                           "ADCAMBIENT", "ADCREF"}));
     }
 
     void versionOneProbeCount65535IsNotOkButStillComputed()
