@@ -23,8 +23,7 @@ const char* const remote_cmd[13] = {
 
 const char* const bluez_cmd[6] = {
     "mknod /dev/rfcomm0 c 216 0",
-    "chmod 666 /dev/rfcomm0"
-    "hciconfig hci0 reset",
+    "chmod 666 /dev/rfcomm0hciconfig hci0 reset", // two commands without a separator, as always
     "hciconfig hci0 down",
     "hciconfig hci0 up",
     "rfcomm connect 0",
