@@ -3,7 +3,6 @@
 // file: whatever the file holds, every group lands inside a row or is
 // refused, and packing the rows stays inside their buffers.
 #include "device/memchip.h"
-#include "device/uploader.h"
 
 #include <cstdint>
 #include <cstdio>

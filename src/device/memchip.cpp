@@ -245,3 +245,45 @@ MemRows createMemRows(eFamily family)
         rows.emplace_back(new mem_cMemRow(MEM_CONFIG, MEM_CONFIG_START, i, family));
     return rows;
 }
+
+int readHexLine(const char* line, unsigned* extended, MemRows& rows)
+{
+    const size_t size = std::strlen(line);
+    if (size < 1)
+        return 0;
+    unsigned length = 0, address = 0, kind = 0;
+    if (std::sscanf(line + 1, "%2x%4x%2x", &length, &address, &kind) != 3)
+        return 0;
+    if (kind == 4) {
+        unsigned word = 0;
+        if (size > 9 && std::sscanf(line + 9, "%4x", &word) == 1)
+            *extended = word << 16;
+        return 0;
+    }
+    if (kind != 0)
+        return 0;
+    unsigned at = (*extended + address) / 2;
+    const unsigned long digits = static_cast<unsigned long>(length) * 2;
+    for (unsigned long used = 0, column = 9; used < digits && column < size;
+         used += 4, column += 4, at++) {
+        bool taken = false;
+        for (auto& row : rows) {
+            if (row->insertData(at, line + column) != 0) {
+                taken = true;
+                break;
+            }
+        }
+        if (!taken)
+            return 1;
+    }
+    return 0;
+}
+
+void keepBootJump(mem_cMemRow* first, const unsigned char* b)
+{
+    char text[20];
+    std::snprintf(text, sizeof text, "%02x%02x%02x00%02x%02x%02x00", b[2], b[1], b[0], b[5], b[4],
+                  b[3]);
+    for (unsigned i = 0; i < 4; i++)
+        first->insertData(i, text + 4 * i);
+}

@@ -87,4 +87,26 @@ typedef std::vector<std::unique_ptr<mem_cMemRow>> MemRows;
 // 0, EEPROM from 0x7FF000, configuration from 0xF80000.
 MemRows createMemRows(eFamily family);
 
+// Lines of a HEX file are read in pieces of at most this many bytes (with
+// the NUL); a longer line goes on as a line of its own.
+#define HEX_LINE_SIZE 4096
+
+// ---- The reading of the HEX file, without a line.
+
+// One line of an Intel HEX file (NUL-terminated) into the rows. Past the
+// first character the line gives length, address and record type; a data
+// record (0) puts each group of four digits from column 9 on, length x 2
+// digits in all, at (extended + address) / 2 and on, into the first row that
+// takes it; an extended address record (4) sets extended. Other records, and
+// lines whose head can't be read, are passed over; checksums are not looked
+// at. Groups stop at the end of the line when the length field promises more
+// than it holds. 0, or 1 when a group fits no row.
+int readHexLine(const char* line, unsigned* extended, MemRows& rows);
+
+// The first two instructions of the chip as the loader read them (b, the
+// first six bytes of row 0, upper byte first), put back at addresses 0 to 3
+// of the first row in the file's word order: the jump to the boot loader
+// survives whatever the file holds there.
+void keepBootJump(mem_cMemRow* first, const unsigned char* b);
+
 #endif

@@ -13,10 +13,6 @@ class QWidget;
 // known after a reset, behind a NUL.
 extern const char BLKRM510[4];
 
-// Lines of a HEX file are read in pieces of at most this many bytes (with
-// the NUL); a longer line goes on as a line of its own.
-#define HEX_LINE_SIZE 4096
-
 // Writes a new firmware into the measuring board: the whole job runs in the
 // constructor. It checks the Intel HEX file, opens the board's line, cycles
 // the board's power to start its boot loader, catches the loader, asks which
@@ -56,23 +52,5 @@ public:
     struct termios newtio; // working
     int done;         // 1 when the sequence reached its end
 };
-
-// ---- The reading of the HEX file, without a line.
-
-// One line of an Intel HEX file (NUL-terminated) into the rows. Past the
-// first character the line gives length, address and record type; a data
-// record (0) puts each group of four digits from column 9 on, length x 2
-// digits in all, at (extended + address) / 2 and on, into the first row that
-// takes it; an extended address record (4) sets extended. Other records, and
-// lines whose head can't be read, are passed over; checksums are not looked
-// at. Groups stop at the end of the line when the length field promises more
-// than it holds. 0, or 1 when a group fits no row.
-int readHexLine(const char* line, unsigned* extended, MemRows& rows);
-
-// The first two instructions of the chip as the loader read them (b, the
-// first six bytes of row 0, upper byte first), put back at addresses 0 to 3
-// of the first row in the file's word order: the jump to the boot loader
-// survives whatever the file holds there.
-void keepBootJump(mem_cMemRow* first, const unsigned char* b);
 
 #endif
