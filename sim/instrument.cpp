@@ -720,7 +720,24 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
             board.windowMs = static_cast<double>(n);
             return ok();
         }
-        return fail("loader chip <id> <process> <family>|version <n>|nak <n>|window <ms>");
+        if (w[1] == "greeting" || (w[1] == "reply" && w.size() >= 3 && integer(2, &n) &&
+                                   (n == 0x11 || n == 0x09 || n == 0x02 || n == 0x03))) {
+            // The rest of the line, escaped, after the verb (and the command byte).
+            size_t at = line.find(w[1]) + w[1].size();
+            if (w[1] == "reply")
+                at = line.find(w[2], at) + w[2].size();
+            std::string text = line.substr(at);
+            size_t start = text.find_first_not_of(" \t");
+            text = start == std::string::npos ? std::string() : unescape(text.substr(start));
+            if (w[1] == "greeting") {
+                board.greeting = text;
+                return ok();
+            }
+            board.loaderReplies[static_cast<int>(n)].push_back(text);
+            return ok(std::to_string(board.loaderReplies[static_cast<int>(n)].size()));
+        }
+        return fail("loader chip <id> <process> <family>|version <n>|nak <n>|window <ms>|"
+                    "greeting <escaped>|reply 0x11|0x09|0x02|0x03 <escaped>");
     }
     if (cmd == "flash" && w.size() >= 2) {
         if (w[1] == "rows") {
@@ -805,7 +822,16 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
                 return ok();
             }
         }
-        return fail("remote gen 1|2, link none|usb <n>|rfcomm, novalue irr|tcell|tenv on|off, log clear");
+        if (w[1] == "reply") {
+            size_t at = line.find("reply");
+            std::string text = line.substr(at + 5);
+            size_t start = text.find_first_not_of(" \t");
+            text = start == std::string::npos ? std::string() : text.substr(start);
+            remote.forcedReplies.push_back(unescape(text));
+            return ok(std::to_string(remote.forcedReplies.size()));
+        }
+        return fail("remote gen 1|2, link none|usb <n>|rfcomm, novalue irr|tcell|tenv on|off, log clear, "
+                    "reply <escaped>");
     }
     if (cmd == "remote" && w.size() == 2 && w[1] == "log") {
         std::string text = std::to_string(remote.log.size());
