@@ -787,7 +787,8 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
                 gpio[static_cast<int>(n)].level = level != 0 ? 1 : 0;
         }
         const Gpio& g = gpio[static_cast<int>(n)];
-        return ok(format("level=%d direction=%s writes=%d", g.level, g.output ? "out" : "in", g.writes));
+        return ok(format("level=%d direction=%s writes=%d tap=%d", g.level, g.output ? "out" : "in", g.writes,
+                         g.tap ? 1 : 0));
     }
     if (cmd == "remote" && w.size() >= 3) {
         if (w[1] == "gen" && integer(2, &n) && (n == 1 || n == 2)) {

@@ -30,9 +30,10 @@
 
 namespace {
 
-// The instrument's display server gives a maximized window the whole screen.
-// A nested X server has no window manager to do it, so the desktop variant
-// does it itself, before the window is first drawn.
+// The instrument's display server gives a maximized window the whole screen
+// and the keys. A nested X server has no window manager to do it, so the
+// desktop variant does it itself, before the window is first drawn, and gives
+// the keys back to the screen underneath when one closes.
 class MaximizedFillsScreen : public QObject
 {
 public:
@@ -41,8 +42,24 @@ public:
     {
         if (event->type() == QEvent::Show && watched->isWidgetType()) {
             QWidget* widget = static_cast<QWidget*>(watched);
-            if (widget->isWindow() && (widget->windowState() & Qt::WindowMaximized) && widget->screen())
+            if (widget->isWindow() && (widget->windowState() & Qt::WindowMaximized) && widget->screen()) {
                 widget->setGeometry(widget->screen()->geometry());
+                widget->activateWindow(); // and its keys, as on the instrument
+            }
+        }
+        if (event->type() == QEvent::Hide && watched->isWidgetType() &&
+            static_cast<QWidget*>(watched)->isWindow()) {
+            // the keys go back to the screen underneath, the newest first
+            const QWidgetList windows = QApplication::topLevelWidgets();
+            QWidget* next = QApplication::activeModalWidget();
+            if (next == watched)
+                next = nullptr;
+            for (int i = windows.size() - 1; next == nullptr && i >= 0; i--)
+                if (windows[i] != watched && windows[i]->isVisible() &&
+                    (windows[i]->windowState() & Qt::WindowMaximized))
+                    next = windows[i];
+            if (next != nullptr && next != watched)
+                next->activateWindow();
         }
         return false;
     }
