@@ -68,6 +68,21 @@ void freePanel(_panel* p)
     free(p->modelFile);
 }
 
+// The same screen, but for the clock of the settings' date field, whose
+// minute may turn between two pictures: below `top`, under 2 % of the pixels
+// differ.
+bool sameScreen(const QImage& a, const QImage& b, int top)
+{
+    if (a.size() != b.size())
+        return false;
+    int differing = 0;
+    for (int y = top; y < a.height(); y++)
+        for (int x = 0; x < a.width(); x++)
+            if (a.pixel(x, y) != b.pixel(x, y))
+                differing++;
+    return differing < a.width() * (a.height() - top) / 50;
+}
+
 int distinctColours(const QImage& image)
 {
     QSet<QRgb> colours;
@@ -154,7 +169,11 @@ public:
         const QString file = rootPath + "/grab.png";
         QFile::remove(file);
         QProcess helper;
-        helper.setProcessEnvironment(environment());
+        QProcessEnvironment env = environment();
+        // the grabber is a tool here, not the code under test: what the X11
+        // libraries keep for the life of a process is no finding
+        env.insert("ASAN_OPTIONS", env.value("ASAN_OPTIONS") + ":detect_leaks=0");
+        helper.setProcessEnvironment(env);
         helper.start(QCoreApplication::applicationFilePath(), {"--grab", file});
         if (!helper.waitForFinished(10000) || helper.exitCode() != 0)
             return QImage();
@@ -411,6 +430,7 @@ private slots:
         const QImage settings = changedFrom(desktop, menu);
         QVERIFY2(!settings.isNull(), "Return on System opened nothing");
         QVERIFY(difference(menu, settings, menuTop).width() > 512);
+        QVERIFY(!sameScreen(menu, settings, menuTop));
         QVERIFY(settings.save(screenshotDir() + "/desktop-settings.png"));
         QVERIFY(backToMenu(desktop, sim, menu));
 
@@ -422,7 +442,7 @@ private slots:
             QVERIFY(tap(sim, "return"));
             const QImage again = changedFrom(desktop, menu);
             QVERIFY2(!again.isNull(), key);
-            QCOMPARE(difference(settings, again, menuTop), QRect());
+            QVERIFY(sameScreen(settings, again, menuTop));
             QVERIFY(backToMenu(desktop, sim, menu));
         }
 
@@ -432,7 +452,7 @@ private slots:
         QVERIFY(tap(sim, "return"));
         const QImage elsewhere = changedFrom(desktop, menu, 1500);
         if (!elsewhere.isNull()) {
-            QVERIFY(!difference(settings, elsewhere, menuTop).isEmpty());
+            QVERIFY(!sameScreen(settings, elsewhere, menuTop));
             QVERIFY(backToMenu(desktop, sim, menu));
         }
         // Up brings the focus back to System.
@@ -440,7 +460,7 @@ private slots:
         QVERIFY(tap(sim, "return"));
         const QImage last = changedFrom(desktop, menu);
         QVERIFY(!last.isNull());
-        QCOMPARE(difference(settings, last, menuTop), QRect());
+        QVERIFY(sameScreen(settings, last, menuTop));
         QVERIFY(backToMenu(desktop, sim, menu));
     }
 
