@@ -21,7 +21,8 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-namespace {
+namespace
+{
 
 const char* const keyNames[6] = {"escape", "up", "backtab", "return", "down", "tab"};
 const char* const keyLabels[6] = {"Esc", "Up", "Back tab", "Enter", "Down", "Tab"};
@@ -36,13 +37,20 @@ QByteArray number(double v)
 } // namespace
 
 const BenchModule BenchWindow::modules[] = {
-    {"Mono 60 cells 300 W", "monocrystalline", 300.0, 32.6, 9.20, 39.8, 9.75, 0.050, -0.29, -0.39, 45.0, 60, 3},
-    {"Mono 72 cells 370 W", "monocrystalline", 370.0, 39.4, 9.39, 48.2, 9.92, 0.048, -0.28, -0.37, 44.0, 72, 3},
-    {"Poly 60 cells 250 W", "polycrystalline", 250.0, 30.4, 8.23, 37.6, 8.81, 0.060, -0.32, -0.41, 46.0, 60, 3},
-    {"Poly 72 cells 320 W", "polycrystalline", 320.0, 36.8, 8.70, 45.6, 9.25, 0.060, -0.32, -0.41, 45.0, 72, 3},
-    {"Thin film 117 W", "thin film", 117.5, 69.4, 1.69, 87.6, 1.83, 0.040, -0.28, -0.28, 45.0, 116, 1},
-    {"Amorphous 100 W", "amorphous", 100.0, 44.8, 2.23, 60.5, 2.62, 0.090, -0.30, -0.20, 46.0, 72, 1},
-    {"Micromorph 128 W", "micromorph", 128.0, 104.0, 1.23, 133.0, 1.42, 0.070, -0.33, -0.24, 45.0, 100, 1},
+    {"Mono 60 cells 300 W", "monocrystalline", 300.0, 32.6, 9.20, 39.8, 9.75, 0.050, -0.29, -0.39,
+     45.0, 60, 3},
+    {"Mono 72 cells 370 W", "monocrystalline", 370.0, 39.4, 9.39, 48.2, 9.92, 0.048, -0.28, -0.37,
+     44.0, 72, 3},
+    {"Poly 60 cells 250 W", "polycrystalline", 250.0, 30.4, 8.23, 37.6, 8.81, 0.060, -0.32, -0.41,
+     46.0, 60, 3},
+    {"Poly 72 cells 320 W", "polycrystalline", 320.0, 36.8, 8.70, 45.6, 9.25, 0.060, -0.32, -0.41,
+     45.0, 72, 3},
+    {"Thin film 117 W", "thin film", 117.5, 69.4, 1.69, 87.6, 1.83, 0.040, -0.28, -0.28, 45.0, 116,
+     1},
+    {"Amorphous 100 W", "amorphous", 100.0, 44.8, 2.23, 60.5, 2.62, 0.090, -0.30, -0.20, 46.0, 72,
+     1},
+    {"Micromorph 128 W", "micromorph", 128.0, 104.0, 1.23, 133.0, 1.42, 0.070, -0.33, -0.24, 45.0,
+     100, 1},
 };
 const int BenchWindow::moduleCount = int(sizeof modules / sizeof modules[0]);
 
@@ -165,7 +173,8 @@ BenchWindow::BenchWindow(const QString& path, QWidget* parent) : QWidget(parent)
 
     connect(irradiance, &QDoubleSpinBox::valueChanged, this, &BenchWindow::sendIrradiance);
     connect(moduleTemperature, &QDoubleSpinBox::valueChanged, this, &BenchWindow::sendTemperatures);
-    connect(ambientTemperature, &QDoubleSpinBox::valueChanged, this, &BenchWindow::sendTemperatures);
+    connect(ambientTemperature, &QDoubleSpinBox::valueChanged, this,
+            &BenchWindow::sendTemperatures);
     connect(module, &QComboBox::currentIndexChanged, this, &BenchWindow::sendModule);
     connect(series, &QSpinBox::valueChanged, this, &BenchWindow::sendSeries);
     connect(fault, &QComboBox::currentIndexChanged, this, &BenchWindow::sendFault);
@@ -214,7 +223,8 @@ QByteArray BenchWindow::call(const QByteArray& line)
     }
     const QByteArray request = line + "\n";
     QByteArray answer;
-    bool broken = send(fd, request.constData(), size_t(request.size()), MSG_NOSIGNAL) != request.size();
+    bool broken =
+        send(fd, request.constData(), size_t(request.size()), MSG_NOSIGNAL) != request.size();
     while (!broken && !answer.endsWith('\n')) {
         struct pollfd p = {fd, POLLIN, 0};
         char buffer[65536];
@@ -240,7 +250,8 @@ QByteArray BenchWindow::call(const QByteArray& line)
 void BenchWindow::say(const QByteArray& line)
 {
     const QByteArray answer = call(line);
-    lastAnswer->setText(QString::fromLatin1(line + "  ->  " + (answer.isEmpty() ? "no simulator" : answer)));
+    lastAnswer->setText(
+        QString::fromLatin1(line + "  ->  " + (answer.isEmpty() ? "no simulator" : answer)));
 }
 
 QStringList BenchWindow::parseLog(const QByteArray& answer)
@@ -267,7 +278,8 @@ QStringList BenchWindow::parseLog(const QByteArray& answer)
             else if (e == 'x' && k + 2 < w.size()) {
                 bool ok = false;
                 const int c = w.mid(k + 1, 2).toInt(&ok, 16);
-                text += ok && c >= 0x20 && c < 0x7f ? QByteArray(1, char(c)) : "\\x" + w.mid(k + 1, 2);
+                text +=
+                    ok && c >= 0x20 && c < 0x7f ? QByteArray(1, char(c)) : "\\x" + w.mid(k + 1, 2);
                 k += 2;
             } else
                 text += e;
@@ -280,7 +292,8 @@ QStringList BenchWindow::parseLog(const QByteArray& answer)
 void BenchWindow::refresh()
 {
     const QByteArray world = call("get");
-    state->setText(world.isEmpty() ? "krm510-simd does not answer" : QString::fromLatin1(world.mid(3)));
+    state->setText(world.isEmpty() ? "krm510-simd does not answer"
+                                   : QString::fromLatin1(world.mid(3)));
     const QByteArray answer = call("board log");
     const int count = answer.startsWith("ok ") ? answer.mid(3).split(' ').value(0).toInt() : 0;
     if (count < logged) {
@@ -309,10 +322,11 @@ void BenchWindow::sendTemperatures()
 void BenchWindow::sendModule()
 {
     const BenchModule& m = modules[qBound(0, module->currentIndex(), moduleCount - 1)];
-    say("set module pmax=" + number(m.pmax) + " impp=" + number(m.impp) + " vmpp=" + number(m.vmpp) +
-        " isc=" + number(m.isc) + " voc=" + number(m.voc) + " kisc=" + number(m.kisc) +
-        " kvoc=" + number(m.kvoc) + " kpmax=" + number(m.kpmax) + " noct=" + number(m.noct) +
-        " cells=" + QByteArray::number(m.cells) + " bypass=" + QByteArray::number(m.bypass));
+    say("set module pmax=" + number(m.pmax) + " impp=" + number(m.impp) +
+        " vmpp=" + number(m.vmpp) + " isc=" + number(m.isc) + " voc=" + number(m.voc) +
+        " kisc=" + number(m.kisc) + " kvoc=" + number(m.kvoc) + " kpmax=" + number(m.kpmax) +
+        " noct=" + number(m.noct) + " cells=" + QByteArray::number(m.cells) +
+        " bypass=" + QByteArray::number(m.bypass));
     dataSheet->setText(QString("%1: Pmax %2 W, Vmpp %3 V, Impp %4 A, Voc %5 V, Isc %6 A,\n"
                                "NOCT %7 C, Isc %8 %/C, Voc %9 %/C, Pmax %10 %/C, %11 cells")
                            .arg(m.technology)

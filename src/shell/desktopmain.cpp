@@ -28,7 +28,8 @@
 #error "KRM_CATALOGUE_DIR must name the compiled catalogues of the build"
 #endif
 
-namespace {
+namespace
+{
 
 // The instrument's display server gives a maximized window the whole screen
 // and the keys. A nested X server has no window manager to do it, so the
@@ -42,7 +43,8 @@ public:
     {
         if (event->type() == QEvent::Show && watched->isWidgetType()) {
             QWidget* widget = static_cast<QWidget*>(watched);
-            if (widget->isWindow() && (widget->windowState() & Qt::WindowMaximized) && widget->screen()) {
+            if (widget->isWindow() && (widget->windowState() & Qt::WindowMaximized) &&
+                widget->screen()) {
                 widget->setGeometry(widget->screen()->geometry());
                 widget->activateWindow(); // and its keys, as on the instrument
             }

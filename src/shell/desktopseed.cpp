@@ -10,7 +10,8 @@
 #include <QFileInfo>
 #include <cstdlib>
 
-namespace {
+namespace
+{
 
 struct SeedModule {
     const char* brand;
@@ -21,18 +22,30 @@ struct SeedModule {
 
 // Data sheets of the kind an installer meets in the field.
 const SeedModule seedModules[] = {
-    {"Fotonica Alpina", "FA-M60 300", 1, 300.0f, 32.6f, 9.20f, 39.8f, 9.75f, 45.0f, 0.050f, -0.29f, -0.39f, 5.0f, 0.0f},
-    {"Fotonica Alpina", "FA-M72 370", 1, 370.0f, 39.4f, 9.39f, 48.2f, 9.92f, 44.0f, 0.048f, -0.28f, -0.37f, 5.0f, 0.0f},
-    {"Fotonica Alpina", "FA-H120 410", 1, 410.0f, 31.2f, 13.14f, 37.6f, 13.88f, 45.0f, 0.048f, -0.27f, -0.35f, 3.0f, 0.0f},
-    {"Sole di Puglia", "SP-P60 250", 2, 250.0f, 30.4f, 8.23f, 37.6f, 8.81f, 46.0f, 0.060f, -0.32f, -0.41f, 3.0f, 0.0f},
-    {"Sole di Puglia", "SP-P60 270", 2, 270.0f, 31.2f, 8.66f, 38.3f, 9.22f, 45.0f, 0.058f, -0.31f, -0.40f, 5.0f, 0.0f},
-    {"Sole di Puglia", "SP-P72 320", 2, 320.0f, 36.8f, 8.70f, 45.6f, 9.25f, 45.0f, 0.060f, -0.32f, -0.41f, 5.0f, 0.0f},
-    {"Nordsonne Film", "NF-T 117", 3, 117.5f, 69.4f, 1.69f, 87.6f, 1.83f, 45.0f, 0.040f, -0.28f, -0.28f, 5.0f, 0.0f},
-    {"Nordsonne Film", "NF-C 150", 3, 150.0f, 80.5f, 1.86f, 107.5f, 2.06f, 47.0f, 0.010f, -0.30f, -0.32f, 5.0f, 0.0f},
-    {"Amorfa Italiana", "AI-A 100", 4, 100.0f, 44.8f, 2.23f, 60.5f, 2.62f, 46.0f, 0.090f, -0.30f, -0.20f, 10.0f, -5.0f},
-    {"Amorfa Italiana", "AI-A 128", 4, 128.0f, 33.0f, 3.88f, 42.6f, 4.80f, 46.0f, 0.100f, -0.38f, -0.21f, 5.0f, -5.0f},
-    {"Microsol", "MS-T 128", 5, 128.0f, 104.0f, 1.23f, 133.0f, 1.42f, 45.0f, 0.070f, -0.33f, -0.24f, 5.0f, -5.0f},
-    {"Microsol", "MS-T 140", 5, 140.0f, 106.0f, 1.32f, 136.0f, 1.48f, 45.0f, 0.070f, -0.33f, -0.24f, 5.0f, -5.0f},
+    {"Fotonica Alpina", "FA-M60 300", 1, 300.0f, 32.6f, 9.20f, 39.8f, 9.75f, 45.0f, 0.050f, -0.29f,
+     -0.39f, 5.0f, 0.0f},
+    {"Fotonica Alpina", "FA-M72 370", 1, 370.0f, 39.4f, 9.39f, 48.2f, 9.92f, 44.0f, 0.048f, -0.28f,
+     -0.37f, 5.0f, 0.0f},
+    {"Fotonica Alpina", "FA-H120 410", 1, 410.0f, 31.2f, 13.14f, 37.6f, 13.88f, 45.0f, 0.048f,
+     -0.27f, -0.35f, 3.0f, 0.0f},
+    {"Sole di Puglia", "SP-P60 250", 2, 250.0f, 30.4f, 8.23f, 37.6f, 8.81f, 46.0f, 0.060f, -0.32f,
+     -0.41f, 3.0f, 0.0f},
+    {"Sole di Puglia", "SP-P60 270", 2, 270.0f, 31.2f, 8.66f, 38.3f, 9.22f, 45.0f, 0.058f, -0.31f,
+     -0.40f, 5.0f, 0.0f},
+    {"Sole di Puglia", "SP-P72 320", 2, 320.0f, 36.8f, 8.70f, 45.6f, 9.25f, 45.0f, 0.060f, -0.32f,
+     -0.41f, 5.0f, 0.0f},
+    {"Nordsonne Film", "NF-T 117", 3, 117.5f, 69.4f, 1.69f, 87.6f, 1.83f, 45.0f, 0.040f, -0.28f,
+     -0.28f, 5.0f, 0.0f},
+    {"Nordsonne Film", "NF-C 150", 3, 150.0f, 80.5f, 1.86f, 107.5f, 2.06f, 47.0f, 0.010f, -0.30f,
+     -0.32f, 5.0f, 0.0f},
+    {"Amorfa Italiana", "AI-A 100", 4, 100.0f, 44.8f, 2.23f, 60.5f, 2.62f, 46.0f, 0.090f, -0.30f,
+     -0.20f, 10.0f, -5.0f},
+    {"Amorfa Italiana", "AI-A 128", 4, 128.0f, 33.0f, 3.88f, 42.6f, 4.80f, 46.0f, 0.100f, -0.38f,
+     -0.21f, 5.0f, -5.0f},
+    {"Microsol", "MS-T 128", 5, 128.0f, 104.0f, 1.23f, 133.0f, 1.42f, 45.0f, 0.070f, -0.33f, -0.24f,
+     5.0f, -5.0f},
+    {"Microsol", "MS-T 140", 5, 140.0f, 106.0f, 1.32f, 136.0f, 1.48f, 45.0f, 0.070f, -0.33f, -0.24f,
+     5.0f, -5.0f},
 };
 
 QString host(const char* devicePath)
@@ -81,7 +94,7 @@ int writeModules()
         panel.brandDir = brandDir;
         panel.modelName = const_cast<char*>(m.model);
         panel.modelFile = file;
-        panel.feature = _panelFeature{m.pmax, m.impp, m.vmpp, m.isc, m.voc, m.type,
+        panel.feature = _panelFeature{m.pmax, m.impp, m.vmpp, m.isc,   m.voc,   m.type,
                                       m.noct, m.kisc, m.kvoc, m.kpmax, m.tollp, m.tollm};
         const int rc = saveNewDataPanel(&panel);
         free(file);

@@ -42,9 +42,12 @@ private slots:
             module->setCurrentIndex(i);
             QVERIFY2(answer->text().endsWith("->  ok"), qPrintable(answer->text()));
             const double pmax = sim.field("pv figures", "pmax").toDouble();
-            QVERIFY2(std::fabs(pmax - BenchWindow::modules[i].pmax) < 0.02 * BenchWindow::modules[i].pmax,
+            QVERIFY2(std::fabs(pmax - BenchWindow::modules[i].pmax) <
+                         0.02 * BenchWindow::modules[i].pmax,
                      BenchWindow::modules[i].name);
-            QVERIFY(bench.findChild<QLabel*>("dataSheet")->text().startsWith(BenchWindow::modules[i].technology));
+            QVERIFY(bench.findChild<QLabel*>("dataSheet")
+                        ->text()
+                        .startsWith(BenchWindow::modules[i].technology));
             technologies.insert(BenchWindow::modules[i].technology);
         }
         QVERIFY(technologies.size() >= 4);

@@ -29,7 +29,8 @@
 #error "KRM_DESKTOP_PATH must name the krm510-desktop binary"
 #endif
 
-namespace {
+namespace
+{
 
 // Below the status bar, whose clock may tick between two pictures.
 const int menuTop = 80;
@@ -149,7 +150,8 @@ public:
         env.insert("QT_QPA_PLATFORM", "xcb");
         env.insert("XDG_RUNTIME_DIR", rootPath + "/run");
         QDir().mkpath(rootPath + "/run");
-        QFile::setPermissions(rootPath + "/run", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        QFile::setPermissions(rootPath + "/run",
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         return env;
     }
 
@@ -263,7 +265,7 @@ QByteArray seed(const QString& root)
 }
 
 const QByteArray keyLines[][2] = {{"escape", "93"}, {"up", "86"},   {"backtab", "89"},
-                                   {"return", "75"}, {"down", "81"}, {"tab", "88"}};
+                                  {"return", "75"}, {"down", "81"}, {"tab", "88"}};
 
 QByteArray keyLine(const char* key)
 {
@@ -288,7 +290,6 @@ bool tap(const SimInstrument& sim, const char* key)
     }
     return false;
 }
-
 
 } // namespace
 
@@ -354,7 +355,8 @@ private slots:
                 QVERIFY2(f.pmax > 50 && f.pmax < 500, m->name);
                 QVERIFY2(f.impp > 0 && f.impp < f.isc, m->name);
                 QVERIFY2(f.vmpp > 0 && f.vmpp < f.voc, m->name);
-                QVERIFY2(f.vmpp * f.impp > 0.97f * f.pmax && f.vmpp * f.impp < 1.03f * f.pmax, m->name);
+                QVERIFY2(f.vmpp * f.impp > 0.97f * f.pmax && f.vmpp * f.impp < 1.03f * f.pmax,
+                         m->name);
                 QVERIFY2(f.kvoc < 0 && f.kpmax < 0 && f.kisc > 0, m->name);
                 QVERIFY2(f.noct >= 40 && f.noct <= 50, m->name);
                 QCOMPARE(QByteArray(panel.modelName), QByteArray(m->name));
@@ -379,16 +381,18 @@ private slots:
         config.lang = _language(1);
         QVERIFY(saveConfigFile(config) > 0);
         QVERIFY(QFile::remove(root.path("/etc/flang/krm510_de")));
-        const QStringList brands = QDir(root.path(DIR_DATA_PANEL)).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        const QStringList brands =
+            QDir(root.path(DIR_DATA_PANEL)).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
         QVERIFY(!brands.isEmpty());
         QVERIFY(QDir(root.path(DIR_DATA_PANEL) + "/" + brands.first()).removeRecursively());
 
         QVERIFY(seed(root.root()).contains(" 0 modules written"));
         readConfigFile(&config);
-        QCOMPARE(int(config.lang), 1); // the operator's settings stay
+        QCOMPARE(int(config.lang), 1);                // the operator's settings stay
         QVERIFY(root.exists("/etc/flang/krm510_de")); // the catalogues come again
-        QCOMPARE(QDir(root.path(DIR_DATA_PANEL)).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(),
-                 brands.size() - 1);
+        QCOMPARE(
+            QDir(root.path(DIR_DATA_PANEL)).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(),
+            brands.size() - 1);
     }
 
     void seedingRefusesARootThatIsAFile()

@@ -46,7 +46,8 @@ private slots:
         // at 960 characters a second: well over 20 ms
         const qint64 real = versionExchangeMs(root);
         QVERIFY(real >= 0);
-        QVERIFY2(real - fast >= 20, qPrintable(QString("fast %1 ms, real %2 ms").arg(fast).arg(real)));
+        QVERIFY2(real - fast >= 20,
+                 qPrintable(QString("fast %1 ms, real %2 ms").arg(fast).arg(real)));
     }
 
     void aTappedKeyReadsLowOnce()
