@@ -75,6 +75,14 @@ void Board::greet()
     windowEnd = nowMs() + windowMs + (inst->fast ? 0.0 : 5.0 * 1000.0 / loaderRate);
 }
 
+void Board::retime()
+{
+    if (inst->fast)
+        inst->boardLine.setRate(0.0);
+    else
+        inst->boardLine.setRate(mode == App ? boardRate : loaderRate);
+}
+
 void Board::tick(double now)
 {
     if (mode == LoaderWindow && now >= windowEnd) {

@@ -82,6 +82,8 @@ public:
     void powerChanged(bool on);
     void input(const std::string& bytes);
     void tick(double now);
+    // The line's pace after a change between real and fast timing.
+    void retime();
     bool powered = true;
 
     // Scenario state.
@@ -186,6 +188,7 @@ private:
         bool output = false;
         int level = 0;
         int writes = 0;
+        bool tap = false; // reads low once, then high again: one quick key press
     };
     std::string bus(const std::vector<std::string>& w);
     std::string scenario(const std::vector<std::string>& w, const std::string& line, bool* quit);
