@@ -112,7 +112,8 @@ int seedDesktopRoot(const QString& catalogueDir)
 {
     if (SystemRoot::get().empty())
         return -1; // never on the instrument's own folders
-    if (!QDir().mkpath(host("/etc")) || !QDir().mkpath(host(DIR_DATA_ROOT)))
+    // /etc/bluetooth holds the remote unit's link file, written by the settings
+    if (!QDir().mkpath(host("/etc/bluetooth")) || !QDir().mkpath(host(DIR_DATA_ROOT)))
         return -1;
     if (!QFileInfo::exists(host("/etc/" CONFIG_FILE))) {
         _configParam config;

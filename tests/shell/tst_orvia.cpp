@@ -157,6 +157,7 @@ private slots:
     {
         TestRoot root(0.01);
         SimInstrument sim(root);
+        QVERIFY(root.mkdir("/etc/bluetooth"));
         QVERIFY(root.installCatalogues());
         Orvia menu;
         QVERIFY(QTest::qWaitForWindowActive(&menu));
@@ -175,6 +176,7 @@ private slots:
         QVERIFY(sim.pressKey("return")); // the hardware key opens the settings
         QTRY_COMPARE_WITH_TIMEOUT(driver.pending(), 0, 5000);
         QVERIFY(!root.exists("/etc/krm510.conf"));
+        QVERIFY(!root.exists("/etc/bluetooth/rfcomm.conf"));
         QCOMPARE(button(menu, "Sistema")->text(), QString("Sistema"));
         QCOMPARE(sim.call("backlight"), backlight);
         QCOMPARE(sim.call("i2c log"), i2c);
@@ -186,6 +188,7 @@ private slots:
     {
         TestRoot root(0.01);
         SimInstrument sim(root);
+        QVERIFY(root.mkdir("/etc/bluetooth"));
         QVERIFY(root.installCatalogues());
         Orvia menu;
         QVERIFY(QTest::qWaitForWindowActive(&menu));
@@ -208,6 +211,8 @@ private slots:
         QVERIFY(!menu.findChild<InfoBar*>()->clockText().contains(' '));
         _configParam saved;
         QCOMPARE(readConfigFile(&saved), 0);
+        QVERIFY(root.exists("/etc/bluetooth/rfcomm.conf")); // the link file follows the settings
+        QVERIFY(root.read("/etc/bluetooth/rfcomm.conf").contains("00:00:00:00:00:00"));
         QCOMPARE(saved.lang, LANG_EN);
         QCOMPARE(saved.tclock, CLOCK_TIME);
         // back to Italian: the same translator object takes the other catalogue
