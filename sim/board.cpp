@@ -18,7 +18,6 @@ const double boardRate = 960.0;   // 9600 baud, 8N1
 const double loaderRate = 3840.0; // 38400 baud
 const double hsinkTau = 600.0;    // s, cooling towards the ambient
 const double hsinkLimit = 70.0;   // degrees C, the board refuses above
-const char greeting[] = {'\0', 0x09, 0x09, 0x09, 0x0D};
 
 long clampCount(double value)
 {
@@ -72,8 +71,16 @@ void Board::greet()
     // After reset the boot loader greets and waits a moment for '%'.
     mode = LoaderWindow;
     inst->boardLine.setRate(inst->fast ? 0.0 : loaderRate);
-    inst->boardLine.send(std::string(greeting, sizeof greeting));
+    inst->boardLine.send(greeting);
     windowEnd = nowMs() + windowMs + (inst->fast ? 0.0 : 5.0 * 1000.0 / loaderRate);
+}
+
+void Board::retime()
+{
+    if (inst->fast)
+        inst->boardLine.setRate(0.0);
+    else
+        inst->boardLine.setRate(mode == App ? boardRate : loaderRate);
 }
 
 void Board::tick(double now)
@@ -123,6 +130,20 @@ void Board::loaderInput(const std::string& bytes)
 {
     loaderBuffer += bytes;
     SerialLine& line = inst->boardLine;
+    // A forced answer replaces the loader's own; the command still acts.
+    auto forced = [this](int command) {
+        auto found = loaderReplies.find(command);
+        return found != loaderReplies.end() && !found->second.empty() ? &found->second : nullptr;
+    };
+    auto answer = [&line, &forced](int command, const std::string& own) {
+        std::deque<std::string>* queue = forced(command);
+        if (queue == nullptr) {
+            line.send(own);
+            return;
+        }
+        line.send(queue->front());
+        queue->pop_front();
+    };
     for (;;) {
         if (loaderBuffer.empty())
             return;
@@ -134,7 +155,7 @@ void Board::loaderInput(const std::string& bytes)
             std::string r;
             r += static_cast<char>(loaderVersion);
             r += '\0';
-            line.send(r);
+            answer(0x11, r);
             break;
         }
         case 0x09: {
@@ -143,7 +164,7 @@ void Board::loaderInput(const std::string& bytes)
             r[0] = static_cast<char>(chipId & 0xFF);
             r[1] = static_cast<char>((chipId >> 8) & 0xFF);
             r[5] = static_cast<char>((chipProcess & 0x0F) << 4);
-            line.send(r);
+            answer(0x09, r);
             break;
         }
         case 0x02: {
@@ -162,7 +183,7 @@ void Board::loaderInput(const std::string& bytes)
                 r += static_cast<char>((word >> 8) & 0xFF);
                 r += static_cast<char>(word & 0xFF);
             }
-            line.send(r);
+            answer(0x02, r);
             break;
         }
         case 0x03: {
@@ -183,9 +204,11 @@ void Board::loaderInput(const std::string& bytes)
             if (nakCount > 0) {
                 nakCount--;
                 line.send(std::string(1, '\0'));
+            } else if (forced(0x03) != nullptr && forced(0x03)->front() != std::string(1, '\x01')) {
+                answer(0x03, std::string()); // a garbled acknowledgement: not taken as written
             } else {
                 rowsWritten.push_back(address);
-                line.send(std::string(1, '\x01'));
+                answer(0x03, std::string(1, '\x01'));
             }
             break;
         }

@@ -273,8 +273,13 @@ std::string Instrument::gpioRequest(const std::string& dev, const std::string& v
         g.output = true;
         return ok("0");
     }
-    if (verb == "gpio.read")
+    if (verb == "gpio.read") {
+        if (g.tap) {
+            g.tap = false;
+            return ok("0 0");
+        }
         return ok("0 " + std::to_string(g.level));
+    }
     if (verb == "gpio.write") {
         long level = 0;
         if (w.size() < 4 || !parseInt(w[3], &level))
@@ -415,6 +420,15 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
     if (cmd == "ping")
         return ok(format("krm510-simd pid=%d root=%s mode=%s", static_cast<int>(getpid()), root.c_str(),
                          fast ? "fast" : "real"));
+    if (cmd == "timing") {
+        if (w.size() >= 2) {
+            if (w[1] != "fast" && w[1] != "real")
+                return fail("timing [fast|real]");
+            fast = w[1] == "fast";
+            board.retime(); // the remote unit's line takes its pace with each answer
+        }
+        return ok(fast ? "fast" : "real");
+    }
     if (cmd == "quit") {
         *quit = true;
         return ok("bye");
@@ -564,9 +578,11 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
         for (int i = 0; i < 6; i++)
             if (w[2] == keyNames[i])
                 index = i;
-        if (index < 0 || (w[1] != "press" && w[1] != "release"))
-            return fail("key press|release escape|up|backtab|return|down|tab");
-        gpio[keyLines[index]].level = w[1] == "press" ? 0 : 1;
+        if (index < 0 || (w[1] != "press" && w[1] != "release" && w[1] != "tap"))
+            return fail("key press|release|tap escape|up|backtab|return|down|tab");
+        Gpio& g = gpio[keyLines[index]];
+        g.tap = w[1] == "tap";
+        g.level = w[1] == "press" ? 0 : 1;
         return ok();
     }
     if (cmd == "stick" && w.size() >= 2) {
@@ -720,7 +736,24 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
             board.windowMs = static_cast<double>(n);
             return ok();
         }
-        return fail("loader chip <id> <process> <family>|version <n>|nak <n>|window <ms>");
+        if (w[1] == "greeting" || (w[1] == "reply" && w.size() >= 3 && integer(2, &n) &&
+                                   (n == 0x11 || n == 0x09 || n == 0x02 || n == 0x03))) {
+            // The rest of the line, escaped, after the verb (and the command byte).
+            size_t at = line.find(w[1]) + w[1].size();
+            if (w[1] == "reply")
+                at = line.find(w[2], at) + w[2].size();
+            std::string text = line.substr(at);
+            size_t start = text.find_first_not_of(" \t");
+            text = start == std::string::npos ? std::string() : unescape(text.substr(start));
+            if (w[1] == "greeting") {
+                board.greeting = text;
+                return ok();
+            }
+            board.loaderReplies[static_cast<int>(n)].push_back(text);
+            return ok(std::to_string(board.loaderReplies[static_cast<int>(n)].size()));
+        }
+        return fail("loader chip <id> <process> <family>|version <n>|nak <n>|window <ms>|"
+                    "greeting <escaped>|reply 0x11|0x09|0x02|0x03 <escaped>");
     }
     if (cmd == "flash" && w.size() >= 2) {
         if (w[1] == "rows") {
@@ -771,7 +804,8 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
                 gpio[static_cast<int>(n)].level = level != 0 ? 1 : 0;
         }
         const Gpio& g = gpio[static_cast<int>(n)];
-        return ok(format("level=%d direction=%s writes=%d", g.level, g.output ? "out" : "in", g.writes));
+        return ok(format("level=%d direction=%s writes=%d tap=%d", g.level, g.output ? "out" : "in", g.writes,
+                         g.tap ? 1 : 0));
     }
     if (cmd == "remote" && w.size() >= 3) {
         if (w[1] == "gen" && integer(2, &n) && (n == 1 || n == 2)) {
@@ -805,7 +839,16 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
                 return ok();
             }
         }
-        return fail("remote gen 1|2, link none|usb <n>|rfcomm, novalue irr|tcell|tenv on|off, log clear");
+        if (w[1] == "reply") {
+            size_t at = line.find("reply");
+            std::string text = line.substr(at + 5);
+            size_t start = text.find_first_not_of(" \t");
+            text = start == std::string::npos ? std::string() : text.substr(start);
+            remote.forcedReplies.push_back(unescape(text));
+            return ok(std::to_string(remote.forcedReplies.size()));
+        }
+        return fail("remote gen 1|2, link none|usb <n>|rfcomm, novalue irr|tcell|tenv on|off, log clear, "
+                    "reply <escaped>");
     }
     if (cmd == "remote" && w.size() == 2 && w[1] == "log") {
         std::string text = std::to_string(remote.log.size());

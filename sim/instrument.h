@@ -82,6 +82,8 @@ public:
     void powerChanged(bool on);
     void input(const std::string& bytes);
     void tick(double now);
+    // The line's pace after a change between real and fast timing.
+    void retime();
     bool powered = true;
 
     // Scenario state.
@@ -106,6 +108,9 @@ public:
     unsigned chipId = 0xBF, chipProcess = 3;
     int family = 1; // 0 dsPIC30F, 1 dsPIC33F, 2 PIC24H, 3 PIC24F
     int nakCount = 0;
+    std::string greeting = std::string("\0\x09\x09\x09\x0D", 5); // sent after each reset
+    // Forced answers by loader command byte (0x11, 0x09, 0x02, 0x03), as they stand.
+    std::map<int, std::deque<std::string>> loaderReplies;
     std::map<uint32_t, uint32_t> flash; // instruction address -> 24-bit word
     std::vector<uint32_t> rowsWritten;
     int rowSize() const { return family == 0 ? 32 : 512; }
@@ -133,6 +138,7 @@ public:
     double sensitivity = 10.54; // PYSENS, version 2
     bool noIrradiance = false, noCell = false, noAmbient = false;
     std::vector<std::string> log;
+    std::deque<std::string> forcedReplies; // answers of the next commands, as they stand
     SerialLine line;
     std::string link = "usb0"; // "none", "usb<n>", "rfcomm"
 
@@ -182,6 +188,7 @@ private:
         bool output = false;
         int level = 0;
         int writes = 0;
+        bool tap = false; // reads low once, then high again: one quick key press
     };
     std::string bus(const std::vector<std::string>& w);
     std::string scenario(const std::vector<std::string>& w, const std::string& line, bool* quit);

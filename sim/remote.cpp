@@ -106,6 +106,12 @@ void RemoteUnit::command(const std::string& text)
     if (!answered)
         return;
     line.setRate(inst->fast ? 0.0 : remoteRate);
+    if (!forcedReplies.empty()) {
+        // A forced answer stands as it is, without CR LF.
+        line.send(forcedReplies.front(), inst->fast ? 0.0 : 100.0);
+        forcedReplies.pop_front();
+        return;
+    }
     line.send(answer + "\r\n", inst->fast ? 0.0 : 100.0);
 }
 

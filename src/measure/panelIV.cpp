@@ -6,6 +6,7 @@
 #include "device/ad7795.h"
 #include "device/gpiopd.h"
 #include "device/powerdevice.h"
+#include "device/remoteunit.h"
 #include "math/curvechain.h"
 #include "math/dpmax.h"
 #include "math/scale.h"
@@ -366,8 +367,43 @@ int PanelIV::getProbeVar(bool showProgress)
     if (_config.remote == LINK_LOCAL) {
         readProbes(5, 0, showProgress, &progress, nullptr);
     } else {
-        showMessageBox(this, QMessageBox::Critical, tr("Unità Remota"),
-                       tr("Non connessa o assente."));
+        if (showProgress) {
+            progress.setWindowTitle(tr("Connessione Unità Remota"));
+            progress.setLabelText(tr("Attivazione Collegamento..."));
+            QCoreApplication::processEvents();
+            progress.setValue(1);
+            QCoreApplication::processEvents();
+        }
+        RemoteUnit* unit = new RemoteUnit(_config.remote, 10.54f);
+        bool connected = false;
+        for (int failures = 0; failures < 4 && !connected; ) {
+            connected = unit->connect() != 0;
+            if (!connected) {
+                unit->disconnect();
+                failures++;
+                if (showProgress)
+                    progress.setValue(failures);
+            }
+        }
+        if (showProgress) {
+            progress.setValue(4);
+            QCoreApplication::processEvents();
+        }
+        if (connected) {
+            if (showProgress) {
+                progress.setLabelText(tr("Acquisizione Misure Ambiente"));
+                progress.setMaximum(6);
+                progress.setValue(1);
+                progress.show();
+                QCoreApplication::processEvents();
+            }
+            readProbes(5, 1, showProgress, &progress, unit);
+        } else {
+            showMessageBox(this, QMessageBox::Critical, tr("Unità Remota"),
+                           tr("Non connessa o assente."));
+        }
+        unit->disconnect();
+        delete unit;
     }
 
     box.setWindowFlags(boxFlags);
@@ -395,7 +431,6 @@ int PanelIV::getProbeVar(bool showProgress)
 void PanelIV::readProbes(int rounds, int first, bool showProgress, QProgressDialog* progress,
                          RemoteUnit* unit)
 {
-    (void)unit;
     for (int round = first; round < first + rounds; round++) {
         char ok = 0;
         float temperature = noValue;
@@ -409,22 +444,25 @@ void PanelIV::readProbes(int rounds, int first, bool showProgress, QProgressDial
             ok = 1;
             break;
         case PROBE_MODULE:
-            temperature = temperatureAcquire(&ok, _config.tmmod, _config.tomod);
+            temperature = unit != nullptr ? unit->getTempModulo(&ok)
+                                          : temperatureAcquire(&ok, _config.tmmod, _config.tomod);
             break;
         default:
-            temperature = temperatureAcquire(&ok, _config.tmenv, _config.toenv);
+            temperature = unit != nullptr ? unit->getTempAmbiente(&ok)
+                                          : temperatureAcquire(&ok, _config.tmenv, _config.toenv);
             break;
         }
         if (ok) {
             _temperatureProbe = temperature;
             _temperatureValid = true;
         }
-        float irradiance = irradiationAcquire(&ok);
+        float irradiance = unit != nullptr ? unit->getPirano(&ok) : irradiationAcquire(&ok);
         if (ok) {
             _irradianceProbe = irradiance;
             _irradianceValid = true;
         }
-        Clock::usleep(500);
+        if (unit == nullptr) // the remote unit's own exchange takes its time
+            Clock::usleep(500);
         if (showProgress)
             progress->setValue(round);
     }

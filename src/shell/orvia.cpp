@@ -4,6 +4,7 @@
 #include "device/ad7795.h"
 #include "device/monitor.h"
 #include "device/powerdevice.h"
+#include "device/rfcomm.h"
 #include "measure/dialogcollegamenti.h"
 #include "measure/panelIV.h"
 #include "platform/clock.h"
@@ -149,6 +150,7 @@ void Orvia::goToSystemDialog()
     translateUi();
     _clockMode = _config.tclock;
     saveConfigFile(_config);
+    createBlueRFCOMM(_config.bluemac, _config.bluename);
     setGforPyrano(_config.cpyar);
     _infoBar->chooseDisplayClock(_config.tclock);
     delete dialog;

@@ -26,6 +26,10 @@ int startInstrument(int& argc, char** argv)
     QPalette palette = QApplication::palette();
     palette.setColor(QPalette::Window, QColor(0, 0, 0, 255));
     palette.setColor(QPalette::WindowText, Qt::white);
+    // flat buttons stand on the black and show their text in white; raised
+    // ones take a dark face to match
+    palette.setColor(QPalette::Button, QColor(48, 48, 48));
+    palette.setColor(QPalette::ButtonText, Qt::white);
     QApplication::setPalette(palette);
 
     _configParam config;

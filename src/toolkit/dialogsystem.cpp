@@ -39,7 +39,9 @@ DialogSystem::DialogSystem(_configParam* config, QWidget* parent) : QDialog(pare
     QGridLayout* grid = new QGridLayout(page);
     int row = 0;
     auto addRow = [&](const QString& label, QWidget* widget, QWidget* extra = nullptr) {
-        grid->addWidget(new QLabel(label, page), row, 0);
+        QLabel* name = new QLabel(label, page);
+        name->setWordWrap(true); // long names take two lines, not the screen's width
+        grid->addWidget(name, row, 0);
         grid->addWidget(widget, row, 1);
         if (extra != nullptr)
             grid->addWidget(extra, row, 2);
@@ -108,6 +110,12 @@ DialogSystem::DialogSystem(_configParam* config, QWidget* parent) : QDialog(pare
     int usedPercent = std::isfinite(used) ? static_cast<int>(qBound(0.0f, used, 100.0f)) : 0;
     addRow(tr("Memoria occupata"), new QLabel(QString::number(usedPercent) + "%", page));
 
+    // the value column gives way to the screen's width rather than the
+    // longest item of a combo
+    for (QComboBox* combo : page->findChildren<QComboBox*>()) {
+        combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        combo->setMinimumContentsLength(6);
+    }
     scrollArea = new QScrollArea(this);
     scrollArea->setWidget(page);
     scrollArea->setWidgetResizable(true);
@@ -150,7 +158,9 @@ DialogSystem::DialogSystem(_configParam* config, QWidget* parent) : QDialog(pare
     irrMinEdit->installEventFilter(this);
 
     Clock::singleShot(800, this, &DialogSystem::readPWVersion);
-    showMaximized();
+    // shown maximised by exec(): a dialog already visible before exec() would
+    // not become modal
+    setWindowState(windowState() | Qt::WindowMaximized);
 }
 
 void DialogSystem::showUserTemperature()

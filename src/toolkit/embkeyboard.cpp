@@ -15,6 +15,7 @@ static const char keyPadPairs[] = "Q1W2E3R4T5Y6U7I8O9P0A-S+D*F/G.H,J;K:L@Z(X)C_V
 static const int keyPadPairCount = 27;
 static const int keyWidth = 26;
 static const int keyHeight = 22;
+static const int keyFontPixels = 14;
 
 EmbKeyboard::EmbKeyboard(QWidget* parent, QString title, QString initial)
     : QDialog(parent), capsOn(true), keyPadOn(false), escKey(nullptr), gpioKeyboard(nullptr),
@@ -59,6 +60,11 @@ QKeyPushButton* EmbKeyboard::createNewKey(QString text)
     }
     key->setObjectName(text);
     key->setFixedSize(keyWidth, keyHeight);
+    // A key is 22 pixels high: its label takes a font that fits it whole,
+    // whatever the application font is.
+    QFont font = key->font();
+    font.setPixelSize(keyFontPixels);
+    key->setFont(font);
     key->show();
     return key;
 }

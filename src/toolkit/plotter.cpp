@@ -237,6 +237,25 @@ void Plotter::refreshPixmap()
     update();
 }
 
+// The instrument's fonts are larger than some of the boxes the plot gives its
+// texts: a text that would not fit its box is drawn in the largest size that
+// does, so that no label is cut.
+static void drawTextInBox(QPainter* painter, const QRect& box, int flags, const QString& text)
+{
+    const QFont former = painter->font();
+    QFont font = former;
+    int px = QFontInfo(font).pixelSize();
+    while (px > 6) {
+        const QRect need = QFontMetrics(font, painter->device()).boundingRect(box, flags, text);
+        if (need.width() <= box.width() && need.height() <= box.height())
+            break;
+        font.setPixelSize(--px);
+    }
+    painter->setFont(font);
+    painter->drawText(box, flags, text);
+    painter->setFont(former);
+}
+
 void Plotter::drawGrid(QPainter* painter)
 {
     const int right = width() - 26;
@@ -261,12 +280,12 @@ void Plotter::drawGrid(QPainter* painter)
         painter->drawLine(x, Margin, x, bottom);
         painter->setPen(tickPen);
         painter->drawLine(x, bottom, x, bottom + 5);
-        painter->drawText(QRect(QPoint(x - 50, bottom + 5), QPoint(x + 49, bottom + 19)),
-                          Qt::AlignHCenter | Qt::AlignTop, tickLabel(label));
+        drawTextInBox(painter, QRect(QPoint(x - 50, bottom + 5), QPoint(x + 49, bottom + 19)),
+                      Qt::AlignHCenter | Qt::AlignTop, tickLabel(label));
     }
     painter->setPen(tickPen);
-    painter->drawText(QRect(QPoint(right - 36, bottom - 10), QPoint(right + 63, bottom + 4)),
-                      Qt::AlignHCenter | Qt::AlignTop, "V");
+    drawTextInBox(painter, QRect(QPoint(right - 36, bottom - 10), QPoint(right + 63, bottom + 4)),
+                  Qt::AlignHCenter | Qt::AlignTop, "V");
 
     for (int j = 0; settings.numYTicks > 0 && j <= settings.numYTicks; ++j) {
         const int y = bottom - tickOffset(j, bottom - Margin, settings.numYTicks);
@@ -275,12 +294,12 @@ void Plotter::drawGrid(QPainter* painter)
         painter->drawLine(Margin, y, right, y);
         painter->setPen(tickPen);
         painter->drawLine(Margin - 5, y, Margin, y);
-        painter->drawText(QRect(QPoint(0, y - 10), QPoint(Margin - 6, y + 9)),
-                          Qt::AlignRight | Qt::AlignVCenter, tickLabel(label));
+        drawTextInBox(painter, QRect(QPoint(0, y - 10), QPoint(Margin - 6, y + 9)),
+                      Qt::AlignRight | Qt::AlignVCenter, tickLabel(label));
     }
     painter->setPen(tickPen);
-    painter->drawText(QRect(QPoint(12, 5), QPoint(29, 24)), Qt::AlignRight | Qt::AlignVCenter,
-                      "I");
+    drawTextInBox(painter, QRect(QPoint(12, 5), QPoint(29, 24)), Qt::AlignRight | Qt::AlignVCenter,
+                  "I");
 
     painter->drawRect(QRect(QPoint(Margin, Margin), QPoint(right - 1, bottom - 1)));
     painter->setFont(formerFont);
@@ -301,8 +320,8 @@ void Plotter::drawTitle(QPainter* painter)
     // title stands 24 pixels right of the middle of the widget.
     const int tw = fontMetrics().horizontalAdvance(plotTitle);
     const int left = (width() - 2 - tw) / 2 + Margin;
-    painter->drawText(QRect(QPoint(left, -2), QPoint(left + tw - 1, 35)),
-                      Qt::AlignLeft | Qt::AlignVCenter, plotTitle);
+    drawTextInBox(painter, QRect(QPoint(left, -2), QPoint(left + tw - 1, 35)),
+                  Qt::AlignLeft | Qt::AlignVCenter, plotTitle);
 
     if (viewPassTest && testResult != 4) {
         const QString verdict = (testResult == 1 || testResult == 3) ? tr("Ok") : tr("No");
@@ -311,8 +330,8 @@ void Plotter::drawTitle(QPainter* painter)
         painter->setFont(font);
         painter->setPen(Qt::green); // the same colour for both verdicts
         const int vw = fontMetrics().horizontalAdvance(text);
-        painter->drawText(QRect(QPoint(28, bottom - 28), QPoint(vw + 77, bottom + 17)),
-                          Qt::AlignLeft, text);
+        drawTextInBox(painter, QRect(QPoint(28, bottom - 28), QPoint(vw + 77, bottom + 17)),
+                      Qt::AlignLeft, text);
     }
     painter->setFont(formerFont);
 }

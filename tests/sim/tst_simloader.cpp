@@ -161,6 +161,37 @@ private slots:
         QCOMPARE(line.readExactly(5, 2000).size(), 5);
         QCOMPARE(line.exchange("ver\r"), QByteArray("ver\rKRM510PD FP 2.1 BRASK\rERROR 0\r"));
     }
+    void greetingCanBeChanged()
+    {
+        TestRoot root;
+        SimInstrument sim(root);
+        QVERIFY(sim.command("loader greeting AB\\x00CD"));
+        TermiosClient line(root.path("/dev/ttyS1"), 38400);
+        QVERIFY(writePower(1) && writePower(0));
+        QCOMPARE(line.readExactly(5, 2000), QByteArray("AB\0CD", 5));
+    }
+    void forcedAnswersGoToTheirCommandOnly()
+    {
+        TestRoot root;
+        SimInstrument sim(root);
+        TermiosClient line(root.path("/dev/ttyS1"), 38400);
+        QVERIFY(enterLoader(line));
+        QCOMPARE(sim.value("loader reply 0x11 \\x07\\x07\\x07"), QByteArray("1"));
+        QCOMPARE(sim.value("loader reply 0x03 \\x55"), QByteArray("1"));
+        QVERIFY(!sim.command("loader reply 0x25 \\x00"));
+        QVERIFY(line.write(QByteArray(1, 0x09)));
+        QCOMPARE(line.readExactly(8, 1000).size(), 8); // its own answer
+        QVERIFY(line.write(QByteArray(1, 0x11)));
+        QCOMPARE(line.readExactly(3, 1000), QByteArray("\x07\x07\x07"));
+        QByteArray row(1536, '\x11');
+        // A garbled acknowledgement: the row is in the image but not counted.
+        QVERIFY(line.write(QByteArray(1, 0x03) + address(0x400) + row));
+        QCOMPARE(line.readExactly(1, 2000), QByteArray("\x55"));
+        QCOMPARE(sim.flashRows(), QList<unsigned>());
+        QVERIFY(line.write(QByteArray(1, 0x03) + address(0x400) + row));
+        QCOMPARE(line.readExactly(1, 2000), QByteArray("\x01"));
+        QCOMPARE(sim.flashRows(), QList<unsigned>({0x400}));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestSimLoader)

@@ -132,6 +132,19 @@ private slots:
         QVERIFY(Command::system("/usr/bin/krmhci.sh start 00:11:22:33:44:55") != 0);
         QVERIFY(!root.exists("/dev/rfcomm0"));
     }
+    void forcedReplyStandsAsItIsForAnAnsweredCommand()
+    {
+        TestRoot root;
+        SimInstrument sim(root);
+        QCOMPARE(sim.value("remote reply \\xff\\x00garbage"), QByteArray("1"));
+        QCOMPARE(sim.value("remote reply second"), QByteArray("2"));
+        TermiosClient line(root.path("/dev/ttyUSB0"), 38400);
+        // A command the unit does not answer leaves the queue alone.
+        QCOMPARE(line.exchange("TOFF\r"), QByteArray());
+        QCOMPARE(line.exchange("VERSION\r"), QByteArray("\xff\x00garbage", 9));
+        QCOMPARE(line.exchange("IRR\r"), QByteArray("second"));
+        QVERIFY(line.exchange("VERSION\r").contains("VER 2.1.0\r\n"));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestSimRemote)

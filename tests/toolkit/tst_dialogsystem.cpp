@@ -346,6 +346,7 @@ private slots:
         TestRoot root(0.001);
         _configParam c = defaults();
         DialogSystem d(&c, nullptr);
+        d.show();
         QVERIFY(QTest::qWaitForWindowActive(&d));
         combo(d, 2)->setFocus();
         QTest::keyClick(&d, Qt::Key_Down);
@@ -359,6 +360,7 @@ private slots:
         _configParam c = defaults();
         c.remote = LINK_BLUETOOTH;
         DialogSystem d(&c, nullptr);
+        d.show();
         QVERIFY(QTest::qWaitForWindowActive(&d));
         combo(d, 0)->setFocus();
         QStringList seen;
@@ -373,6 +375,22 @@ private slots:
                                     "QComboBox"}));
         QScrollBar* bar = d.findChild<QScrollArea*>()->verticalScrollBar();
         QCOMPARE(bar->value(), bar->minimum());
+    }
+    void settingsAreModalWhenRun()
+    {
+        TestRoot root(0.001);
+        _configParam c = defaults();
+        DialogSystem d(&c, nullptr);
+        QVERIFY(!d.isVisible());
+        QVERIFY(d.windowState() & Qt::WindowMaximized);
+        ModalDriver driver;
+        bool modal = false;
+        driver.onNext([&](QWidget* w) {
+            modal = w == &d;
+            QTest::keyClick(w, Qt::Key_Escape);
+        });
+        QCOMPARE(d.exec(), int(QDialog::Rejected));
+        QVERIFY(modal);
     }
     void escapeRejects()
     {
