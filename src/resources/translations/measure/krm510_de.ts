@@ -208,7 +208,7 @@
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+96"/>
+        <location filename="../../../measure/panelIV.cpp" line="+97"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -333,11 +333,22 @@ Vor weiteren Tests bitte warten.</translation>
     </message>
     <message>
         <location line="+22"/>
+        <location line="+48"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Umgebungsmessung</translation>
     </message>
     <message>
-        <location line="+24"/>
+        <location line="-23"/>
+        <source>Connessione Unità Remota</source>
+        <translation>Verbindung Fernmodul</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Verbindung wird aufgebaut...</translation>
+    </message>
+    <message>
+        <location line="+30"/>
         <source>Unità Remota</source>
         <translation>Ferneinheit</translation>
     </message>
@@ -347,7 +358,7 @@ Vor weiteren Tests bitte warten.</translation>
         <translation>Nicht verbunden oder nicht vorhanden.</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+11"/>
         <location line="+3"/>
         <source>Misure Ambiente</source>
         <translation>Umgebung</translation>
@@ -368,7 +379,7 @@ Vor weiteren Tests bitte warten.</translation>
         <translation>Einstrahlung zu niedrig (&lt; </translation>
     </message>
     <message>
-        <location line="+51"/>
+        <location line="+53"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Einstrahlung sehr variabel</translation>
     </message>

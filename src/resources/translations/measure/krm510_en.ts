@@ -208,7 +208,7 @@
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+96"/>
+        <location filename="../../../measure/panelIV.cpp" line="+97"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -333,11 +333,22 @@ Wait before resuming the tests.</translation>
     </message>
     <message>
         <location line="+22"/>
+        <location line="+48"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Environment measures</translation>
     </message>
     <message>
-        <location line="+24"/>
+        <location line="-23"/>
+        <source>Connessione Unità Remota</source>
+        <translation>Remote unit connection</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Activating link...</translation>
+    </message>
+    <message>
+        <location line="+30"/>
         <source>Unità Remota</source>
         <translation>Remote Unit</translation>
     </message>
@@ -347,7 +358,7 @@ Wait before resuming the tests.</translation>
         <translation>Not connected or missing.</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+11"/>
         <location line="+3"/>
         <source>Misure Ambiente</source>
         <translation>Environment</translation>
@@ -368,7 +379,7 @@ Wait before resuming the tests.</translation>
         <translation>Insufficient irradiance (&lt; </translation>
     </message>
     <message>
-        <location line="+51"/>
+        <location line="+53"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Highly variable solar radiation</translation>
     </message>

@@ -208,7 +208,7 @@
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+96"/>
+        <location filename="../../../measure/panelIV.cpp" line="+97"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -333,11 +333,22 @@ Esperar antes de reanudar las pruebas.</translation>
     </message>
     <message>
         <location line="+22"/>
+        <location line="+48"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Adquisición medidas ambientales</translation>
     </message>
     <message>
-        <location line="+24"/>
+        <location line="-23"/>
+        <source>Connessione Unità Remota</source>
+        <translation>Conexión unidad remota</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Activando conexión...</translation>
+    </message>
+    <message>
+        <location line="+30"/>
         <source>Unità Remota</source>
         <translation>Unidad remota</translation>
     </message>
@@ -347,7 +358,7 @@ Esperar antes de reanudar las pruebas.</translation>
         <translation>No conectada o ausente.</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+11"/>
         <location line="+3"/>
         <source>Misure Ambiente</source>
         <translation>Medidas ambientales</translation>
@@ -368,7 +379,7 @@ Esperar antes de reanudar las pruebas.</translation>
         <translation>Irradiancia insuficiente (&lt; </translation>
     </message>
     <message>
-        <location line="+51"/>
+        <location line="+53"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Valor de la irradiancia inestable</translation>
     </message>

@@ -208,7 +208,7 @@
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+96"/>
+        <location filename="../../../measure/panelIV.cpp" line="+97"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -333,11 +333,22 @@ Attendre avant de reprendre les tests.</translation>
     </message>
     <message>
         <location line="+22"/>
+        <location line="+48"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Acquisition mesures ambiantes</translation>
     </message>
     <message>
-        <location line="+24"/>
+        <location line="-23"/>
+        <source>Connessione Unità Remota</source>
+        <translation>Connexion unité distante</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Activation de la liaison...</translation>
+    </message>
+    <message>
+        <location line="+30"/>
         <source>Unità Remota</source>
         <translation>Unité distante</translation>
     </message>
@@ -347,7 +358,7 @@ Attendre avant de reprendre les tests.</translation>
         <translation>Non connectée ou absente.</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+11"/>
         <location line="+3"/>
         <source>Misure Ambiente</source>
         <translation>Mesures ambiantes</translation>
@@ -368,7 +379,7 @@ Attendre avant de reprendre les tests.</translation>
         <translation>Ensoleillement insuffisant (&lt; </translation>
     </message>
     <message>
-        <location line="+51"/>
+        <location line="+53"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Fort variation du valeur d&apos;ensoleillement</translation>
     </message>

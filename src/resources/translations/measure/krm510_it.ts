@@ -208,7 +208,7 @@
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+96"/>
+        <location filename="../../../measure/panelIV.cpp" line="+97"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -333,11 +333,22 @@ Attendere prima di riprendere i test.</translation>
     </message>
     <message>
         <location line="+22"/>
+        <location line="+48"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Acquisizione Misure Ambiente</translation>
     </message>
     <message>
-        <location line="+24"/>
+        <location line="-23"/>
+        <source>Connessione Unità Remota</source>
+        <translation>Connessione Unità Remota</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Attivazione Collegamento...</translation>
+    </message>
+    <message>
+        <location line="+30"/>
         <source>Unità Remota</source>
         <translation>Unità Remota</translation>
     </message>
@@ -347,7 +358,7 @@ Attendere prima di riprendere i test.</translation>
         <translation>Non connessa o assente.</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+11"/>
         <location line="+3"/>
         <source>Misure Ambiente</source>
         <translation>Misure Ambiente</translation>
@@ -368,7 +379,7 @@ Attendere prima di riprendere i test.</translation>
         <translation>Irraggiamento insufficiente (&lt; </translation>
     </message>
     <message>
-        <location line="+51"/>
+        <location line="+53"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Delta Irraggiamento Elevato</translation>
     </message>
