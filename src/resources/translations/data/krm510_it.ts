@@ -4,12 +4,12 @@
 <context>
     <name>DialogFreeSpace</name>
     <message>
-        <location filename="../../../data/freespace.cpp" line="+30" />
+        <location filename="../../../data/freespace.cpp" line="+30"/>
         <source>Memoria occupata</source>
         <translation>Memoria occupata</translation>
     </message>
     <message>
-        <location line="+15" />
+        <location line="+15"/>
         <source>OK</source>
         <translation>OK</translation>
     </message>

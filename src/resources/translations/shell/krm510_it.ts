@@ -4,55 +4,55 @@
 <context>
     <name>Orvia</name>
     <message>
-        <location filename="../../../shell/orvia.cpp" line="+55" />
+        <location filename="../../../shell/orvia.cpp" line="+55"/>
         <source>Brask</source>
-        <translation>Brask</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+44" />
+        <location line="+44"/>
         <source>Sistema</source>
         <translation>Sistema</translation>
     </message>
     <message>
-        <location line="+1" />
+        <location line="+1"/>
         <source>Modulo</source>
         <translation>Modulo</translation>
     </message>
     <message>
-        <location line="+1" />
+        <location line="+1"/>
         <source>Stringa</source>
         <translation>Stringa</translation>
     </message>
     <message>
-        <location line="+1" />
+        <location line="+1"/>
         <source>Archivio
 Moduli</source>
         <translation>Archivio
 Moduli</translation>
     </message>
     <message>
-        <location line="+1" />
+        <location line="+1"/>
         <source>Archivio
 Misure</source>
         <translation>Archivio
 Misure</translation>
     </message>
     <message>
-        <location line="+1" />
+        <location line="+1"/>
         <source>Archivio
 Aziende</source>
         <translation>Archivio
 Aziende</translation>
     </message>
     <message>
-        <location line="+1" />
+        <location line="+1"/>
         <source>Archivio
 Installazioni</source>
         <translation>Archivio
 Installazioni</translation>
     </message>
     <message>
-        <location line="+1" />
+        <location line="+1"/>
         <source>USB</source>
         <translation>USB</translation>
     </message>
