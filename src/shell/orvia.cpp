@@ -1,5 +1,6 @@
 #include "shell/orvia.h"
 
+#include "archive/archivepanel.h"
 #include "data/datasetting.h"
 #include "device/ad7795.h"
 #include "device/monitor.h"
@@ -86,6 +87,7 @@ Orvia::Orvia()
     Command::system("/home/myspi");
 
     connect(_buttonSystem, &QPushButton::clicked, this, &Orvia::goToSystemDialog);
+    connect(_buttonArchivePanel, &QPushButton::clicked, this, &Orvia::goToArchivePanel);
     showMaximized();
 }
 
@@ -151,12 +153,21 @@ void Orvia::goToSystemDialog()
     delete dialog;
 }
 
+void Orvia::goToArchivePanel()
+{
+    ArchivePanel* screen = new ArchivePanel(this);
+    screen->exec();
+    delete screen;
+}
+
 void Orvia::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
     case Qt::Key_Return:
         if (_buttonSystem->hasFocus())
             goToSystemDialog();
+        if (_buttonArchivePanel->hasFocus())
+            goToArchivePanel();
         break;
     case Qt::Key_Up:
         if (_buttonSystem->hasFocus())

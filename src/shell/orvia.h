@@ -29,6 +29,7 @@ public:
 
 public slots:
     void goToSystemDialog();
+    void goToArchivePanel();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
