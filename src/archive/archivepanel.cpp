@@ -63,6 +63,8 @@ ArchivePanel::ArchivePanel(QWidget* parent) : QDialog(parent)
     connect(_buttonFind, &QPushButton::clicked, this, &ArchivePanel::goToFindPanel);
     connect(_buttonList, &QPushButton::clicked, this, &ArchivePanel::goToListPanel);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
+    // modal from the first show: exec() on a shown window would not make it so
+    setModal(true);
     showMaximized();
 }
 

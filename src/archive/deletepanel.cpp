@@ -65,6 +65,8 @@ DeletePanel::DeletePanel(QWidget* parent, _listBrand* brandList)
     connect(_buttonDeleteModel, &QPushButton::clicked, this, &DeletePanel::questionDeleteModel);
     connect(_buttonDeleteBrand, &QPushButton::clicked, this, &DeletePanel::questionDeleteBrand);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
+    // modal from the first show: exec() on a shown window would not make it so
+    setModal(true);
     showMaximized();
 }
 

@@ -47,6 +47,8 @@ EditBrand::EditBrand(QWidget* parent, _listBrand* brandList) : QDialog(parent), 
     connect(_listWidgetBrand, &QListWidget::itemSelectionChanged, this, &EditBrand::selectBrandInList);
     connect(_buttonSave, &QPushButton::clicked, this, &EditBrand::saveBrand);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
+    // modal from the first show: exec() on a shown window would not make it so
+    setModal(true);
     showMaximized();
 }
 

@@ -104,6 +104,8 @@ EditPanel::EditPanel(QWidget* parent, _listBrand* brandList)
     connect(_buttonSave, &QPushButton::clicked, this, &EditPanel::savePanelEdited);
     connect(_buttonReset, &QPushButton::clicked, this, &EditPanel::modelReloaded);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
+    // modal from the first show: exec() on a shown window would not make it so
+    setModal(true);
     showMaximized();
 }
 

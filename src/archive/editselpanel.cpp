@@ -111,6 +111,8 @@ EditSelectedPanel::EditSelectedPanel(QWidget* parent, char* brandDir, char* mode
     connect(_buttonSave, &QPushButton::clicked, this, &EditSelectedPanel::savePanelEdited);
     connect(_buttonReset, &QPushButton::clicked, this, &EditSelectedPanel::modelReloaded);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
+    // modal from the first show: exec() on a shown window would not make it so
+    setModal(true);
     showMaximized();
 }
 

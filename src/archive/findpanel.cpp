@@ -78,6 +78,8 @@ FindPanel::FindPanel(QWidget* parent, _listBrand* brandList) : QDialog(parent), 
     connect(_buttonFind, &QPushButton::clicked, this, &FindPanel::findPanelInDB);
     connect(_buttonReset, &QPushButton::clicked, this, &FindPanel::resetParameters);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
+    // modal from the first show: exec() on a shown window would not make it so
+    setModal(true);
     showMaximized();
 }
 

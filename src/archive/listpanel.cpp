@@ -43,6 +43,8 @@ ListPanel::ListPanel(QWidget* parent, _listBrand* brandList)
     selectBrandOnCombo();
     connect(_comboBrand, &QComboBox::currentIndexChanged, this, &ListPanel::selectBrandOnCombo);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
+    // modal from the first show: exec() on a shown window would not make it so
+    setModal(true);
     showMaximized();
 }
 

@@ -100,6 +100,8 @@ NewPanel::NewPanel(QWidget* parent, _listBrand* brandList) : QDialog(parent), _b
     connect(_comboType, &QComboBox::currentIndexChanged, this, &NewPanel::selectPanelType);
     connect(_buttonSave, &QPushButton::clicked, this, &NewPanel::savePanel);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
+    // modal from the first show: exec() on a shown window would not make it so
+    setModal(true);
     showMaximized();
 }
 
