@@ -130,6 +130,7 @@ private slots:
         };
         driver.onNext(leave);
         touch(child<QPushButton>(&menu, "ArchivioModuli"));
+        menu.activateWindow(); // the test platform leaves the window behind a closed dialog inactive
         QVERIFY(QTest::qWaitForWindowActive(&menu));
         child<QPushButton>(&menu, "ArchivioModuli")->setFocus();
         driver.onNext(leave);
