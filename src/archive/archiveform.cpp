@@ -120,6 +120,14 @@ void walkFocus(const QList<QWidget*>& chain, bool down)
     }
 }
 
+void setFormFont(QWidget* screen, QWidget* bar, int pointSize)
+{
+    QFont font = screen->font();
+    bar->setFont(font);
+    font.setPointSize(pointSize);
+    screen->setFont(font);
+}
+
 void fillSortedCombo(QComboBox* combo, QStringList names)
 {
     names.sort();

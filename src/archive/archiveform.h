@@ -63,6 +63,10 @@ void walkFocus(const QList<QWidget*>& chain, bool down);
 // The widget of the chain that has the focus, or null.
 QWidget* focusedIn(const QList<QWidget*>& chain);
 
+// The forms hold many rows: their fields, labels and buttons take a smaller
+// font than the instrument's, the status bar keeps the instrument's.
+void setFormFont(QWidget* screen, QWidget* bar, int pointSize);
+
 // Fills a combo with the names sorted by the string list sort.
 void fillSortedCombo(QComboBox* combo, QStringList names);
 

@@ -29,6 +29,7 @@ DeletePanel::DeletePanel(QWidget* parent, _listBrand* brandList)
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
     _infoBar = new InfoBar(this);
     _infoBar->setTitle(tr("Cancella Modulo / Modello"));
+    setFormFont(this, _infoBar, 30);
 
     _comboBrand = new QComboBox;
     _comboBrand->setObjectName("brand");

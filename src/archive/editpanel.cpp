@@ -25,6 +25,7 @@ EditPanel::EditPanel(QWidget* parent, _listBrand* brandList)
     memset(&_record, 0, sizeof _record);
     _infoBar = new InfoBar(this);
     _infoBar->setTitle(tr("Modifica Modulo"));
+    setFormFont(this, _infoBar, 24);
 
     _panelFeature& f = _record.feature;
     _number[PMAX] = {new QLineEdit, &f.pmax, 1, 1000, 1, tr("Pmax"), tr("Pmax"), tr("Pmax : ")};
@@ -66,7 +67,7 @@ EditPanel::EditPanel(QWidget* parent, _listBrand* brandList)
     grid->addWidget(_comboModel, 0, 4, 1, 2);
     for (int i = 0; i < NUMBERS; i++) {
         _number[i].edit->setObjectName(name[i]);
-        setLineEditWidth(_number[i].edit, 150);
+        setLineEditWidth(_number[i].edit, 120);
         int row = i < KISC ? 1 + i : 2 + i - KISC;
         createLineEdit(grid, _number[i].edit, label[i], unit[i], row, i < KISC ? 0 : 3);
         _number[i].edit->installEventFilter(this);

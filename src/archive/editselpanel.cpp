@@ -35,6 +35,7 @@ EditSelectedPanel::EditSelectedPanel(QWidget* parent, char* brandDir, char* mode
     getPanel(&_record, brandDir, modelFile);
     _infoBar = new InfoBar(this);
     _infoBar->setTitle(tr("Modifica Modulo"));
+    setFormFont(this, _infoBar, 24);
 
     _panelFeature& f = _record.feature;
     _number[PMAX] = {new QLineEdit, &f.pmax, 1, 1000, 1, tr("Pmax"), tr("Pmax"), tr("Pmax : ")};
@@ -72,12 +73,12 @@ EditSelectedPanel::EditSelectedPanel(QWidget* parent, char* brandDir, char* mode
     grid->addWidget(_labelBrand, 0, 1, 1, 2);
     _editModel = new QLineEdit;
     _editModel->setObjectName("model");
-    setLineEditWidth(_editModel, 330);
+    setLineEditWidth(_editModel, 260);
     createLineEdit(grid, _editModel, tr("Modello"), QString(), 0, 3);
     _editModel->installEventFilter(this);
     for (int i = 0; i < NUMBERS; i++) {
         _number[i].edit->setObjectName(name[i]);
-        setLineEditWidth(_number[i].edit, 150);
+        setLineEditWidth(_number[i].edit, 120);
         int row = i < KISC ? 1 + i : 2 + i - KISC;
         createLineEdit(grid, _number[i].edit, label[i], unit[i], row, i < KISC ? 0 : 3);
         _number[i].edit->installEventFilter(this);

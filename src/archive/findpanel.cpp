@@ -53,6 +53,10 @@ FindPanel::FindPanel(QWidget* parent, _listBrand* brandList) : QDialog(parent), 
 
     _listFind = new QListWidget;
     _listFind->setObjectName("result");
+    // the seven cells of a result row take a smaller font than the screen's
+    QFont listFont = _listFind->font();
+    listFont.setPointSize(22);
+    _listFind->setFont(listFont);
     _labelCount = new QLabel(tr("Modello trovato : "));
     _labelCount->setObjectName("count");
     _buttonFind = new QPushButton(QIcon(":/icon/find-panel.png"), tr("Cerca"));

@@ -6,6 +6,7 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -27,6 +28,11 @@ ListPanel::ListPanel(QWidget* parent, _listBrand* brandList)
     brandRow->addWidget(_comboBrand, 1);
     _table = new QTableWidget;
     _table->setObjectName("table");
+    // seven columns of figures across the screen: the table's own, smaller font
+    QFont tableFont = _table->font();
+    tableFont.setPointSize(22);
+    _table->setFont(tableFont);
+    _table->horizontalHeader()->setFont(tableFont);
     _buttonExit = new QPushButton(QIcon(":/icon/exit.png"), tr("Exit"));
     _buttonExit->setObjectName("Exit");
     QHBoxLayout* buttons = new QHBoxLayout;
@@ -98,6 +104,8 @@ void ListPanel::selectBrandOnCombo()
     }
     for (int column = 1; column <= 6; column++)
         _table->resizeColumnToContents(column);
+    // the model's name takes the room the figures leave
+    _table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
 void ListPanel::keyPressEvent(QKeyEvent* event)

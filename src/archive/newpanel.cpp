@@ -23,6 +23,7 @@ NewPanel::NewPanel(QWidget* parent, _listBrand* brandList) : QDialog(parent), _b
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
     _infoBar = new InfoBar(this);
     _infoBar->setTitle(tr("Nuovo Modulo"));
+    setFormFont(this, _infoBar, 24);
 
     const float none = std::numeric_limits<float>::max();
     // Voc has no upper bound and Toll- may be negative here, on purpose.
@@ -61,11 +62,11 @@ NewPanel::NewPanel(QWidget* parent, _listBrand* brandList) : QDialog(parent), _b
     grid->addWidget(_comboBrand, 0, 1, 1, 2);
     _editModel = new QLineEdit;
     _editModel->setObjectName("model");
-    setLineEditWidth(_editModel, 330);
+    setLineEditWidth(_editModel, 260);
     createLineEdit(grid, _editModel, tr("Modello"), QString(), 0, 3);
     for (int i = 0; i < NUMBERS; i++) {
         _number[i].edit->setObjectName(name[i]);
-        setLineEditWidth(_number[i].edit, 150);
+        setLineEditWidth(_number[i].edit, 120);
         // the left column holds six rows, the right one the type and five more
         int row = i < KISC ? 1 + i : 2 + i - KISC;
         createLineEdit(grid, _number[i].edit, label[i], unit[i], row, i < KISC ? 0 : 3);
