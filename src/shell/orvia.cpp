@@ -1,5 +1,6 @@
 #include "shell/orvia.h"
 
+#include "archive/archivepanel.h"
 #include "data/datasetting.h"
 #include "device/ad7795.h"
 #include "device/monitor.h"
@@ -90,6 +91,7 @@ Orvia::Orvia()
 
     connect(_buttonSystem, &QPushButton::clicked, this, &Orvia::goToSystemDialog);
     connect(_buttonPanel, &QPushButton::clicked, this, &Orvia::goToPanelIV);
+    connect(_buttonArchivePanel, &QPushButton::clicked, this, &Orvia::goToArchivePanel);
     showMaximized();
 }
 
@@ -167,6 +169,11 @@ void Orvia::goToPanelIV()
     PanelIV* panel = new PanelIV(this);
     panel->exec();
     delete panel;
+void Orvia::goToArchivePanel()
+{
+    ArchivePanel* screen = new ArchivePanel(this);
+    screen->exec();
+    delete screen;
 }
 
 void Orvia::keyPressEvent(QKeyEvent* event)
@@ -175,8 +182,10 @@ void Orvia::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Return:
         if (_buttonSystem->hasFocus())
             goToSystemDialog();
-        else if (_buttonPanel->hasFocus())
+        if (_buttonPanel->hasFocus())
             goToPanelIV();
+        if (_buttonArchivePanel->hasFocus())
+            goToArchivePanel();
         break;
     case Qt::Key_Up:
         if (_buttonSystem->hasFocus())

@@ -30,6 +30,7 @@ public:
 public slots:
     void goToSystemDialog();
     void goToPanelIV();
+    void goToArchivePanel();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -1,0 +1,73 @@
+#ifndef KRM_ARCHIVE_ARCHIVEFORM_H
+#define KRM_ARCHIVE_ARCHIVEFORM_H
+
+#include <QList>
+#include <QString>
+
+class QComboBox;
+class QGridLayout;
+class QLineEdit;
+class QMessageBox;
+class QWidget;
+
+// What the module form screens and the other archive screens share: the
+// label - line edit - unit rows, the defaults of the technology combo, the
+// round of one number on the on-screen keyboard and the walk of the focus
+// with the hardware keys. The texts come translated from each screen.
+
+// Module technologies, by the row of the "Tipo" combo and the `type` of a data sheet.
+#define PANEL_TYPES 6
+// Longest name of a model or a brand.
+#define FORM_NAME_LIMIT 255
+// The temperature coefficient of Voc that selecting a technology puts in the form.
+float defaultKvoc(int type);
+
+void setLineEditWidth(QLineEdit* edit, int width);
+// Puts label, line edit and unit into the grid at row, from column on.
+void createLineEdit(QGridLayout* grid, QLineEdit* edit, QString label, QString unit, int row,
+                    int column);
+
+// One number of a form and the rules of its keyboard round.
+struct FormNumber {
+    QLineEdit* edit;
+    float* value;
+    float low; // both ends included
+    float high;
+    int decimals;
+    QString keyboardTitle;
+    QString boxTitle;
+    QString tag;
+};
+
+enum FormRound { ROUND_LEFT = 0, ROUND_REFUSED = 1, ROUND_ACCEPTED = 2 };
+
+// Writes the value of a field into its line edit with the field's decimals.
+void showFormNumber(const FormNumber& field);
+// Opens the key pad on the field (empty for a stored 0), checks what the
+// operator entered against the bounds and either stores and shows it or
+// tells the refusal in the box (its informative text: the tag and the
+// entered string). The field's text is changed only on success.
+FormRound enterFormNumber(QWidget* screen, QMessageBox* box, const FormNumber& field);
+
+// Opens the letter layer on a text field with the initial text; an empty
+// text or one above 255 characters is refused with the box, whose
+// informative text is then emptyText or longText. On success the line edit
+// takes the text.
+FormRound enterFormText(QWidget* screen, QMessageBox* box, QLineEdit* edit, const QString& initial,
+                        const QString& keyboardTitle, const QString& boxTitle,
+                        const QString& emptyText, const QString& longText);
+
+// Up and Down along a fixed chain of widgets; a disabled or hidden one is
+// passed over. With nothing of the chain focused the walk starts at an end.
+void walkFocus(const QList<QWidget*>& chain, bool down);
+// The widget of the chain that has the focus, or null.
+QWidget* focusedIn(const QList<QWidget*>& chain);
+
+// The forms hold many rows: their fields, labels and buttons take a smaller
+// font than the instrument's, the status bar keeps the instrument's.
+void setFormFont(QWidget* screen, QWidget* bar, int pointSize);
+
+// Fills a combo with the names sorted by the string list sort.
+void fillSortedCombo(QComboBox* combo, QStringList names);
+
+#endif

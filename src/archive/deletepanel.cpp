@@ -1,0 +1,237 @@
+#include "archive/deletepanel.h"
+
+#include "archive/archiveform.h"
+#include "data/datapanel.h"
+#include "data/direntry.h"
+#include "toolkit/infobar.h"
+#include "toolkit/messagebox.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <cstring>
+#include <dirent.h>
+#include <unistd.h>
+
+#define CWD_SIZE 256
+
+DeletePanel::DeletePanel(QWidget* parent, _listBrand* brandList)
+    : QDialog(parent), _brandHead(brandList), _modelHead(nullptr)
+{
+    setObjectName("DeletePanelModel");
+    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
+    _infoBar = new InfoBar(this);
+    _infoBar->setTitle(tr("Cancella Modulo / Modello"));
+    setFormFont(this, _infoBar, 30);
+
+    _comboBrand = new QComboBox;
+    _comboBrand->setObjectName("brand");
+    QHBoxLayout* brandRow = new QHBoxLayout;
+    brandRow->addWidget(new QLabel(tr("Marca")));
+    brandRow->addWidget(_comboBrand, 1);
+    _listWidgetModel = new QListWidget;
+    _listWidgetModel->setObjectName("models");
+    _labelCount = new QLabel;
+    _labelCount->setObjectName("count");
+    _buttonDeleteModel = new QPushButton(QIcon(":/icon/trash.png"), tr("Cancella Modello"));
+    _buttonDeleteModel->setObjectName("Cancella Modello");
+    _buttonDeleteBrand = new QPushButton(QIcon(":/icon/trash.png"), tr("Cancella Marca"));
+    _buttonDeleteBrand->setObjectName("Cancella Marca");
+    _buttonExit = new QPushButton(QIcon(":/icon/exit.png"), tr("Exit"));
+    _buttonExit->setObjectName("Exit");
+    QHBoxLayout* buttons = new QHBoxLayout;
+    buttons->addWidget(_buttonDeleteModel);
+    buttons->addWidget(_buttonDeleteBrand);
+    buttons->addWidget(_buttonExit);
+
+    QVBoxLayout* box = new QVBoxLayout(this);
+    box->addWidget(_infoBar);
+    box->addLayout(brandRow);
+    box->addWidget(new QLabel(tr("Modello")));
+    box->addWidget(_listWidgetModel);
+    box->addWidget(_labelCount);
+    box->addLayout(buttons);
+
+    insertBrandOnCombo();
+    selectBrandOnCombo();
+    connect(_comboBrand, &QComboBox::currentIndexChanged, this, &DeletePanel::selectBrandOnCombo);
+    connect(_listWidgetModel, &QListWidget::itemPressed, this, &DeletePanel::selectModel);
+    connect(_buttonDeleteModel, &QPushButton::clicked, this, &DeletePanel::questionDeleteModel);
+    connect(_buttonDeleteBrand, &QPushButton::clicked, this, &DeletePanel::questionDeleteBrand);
+    connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
+    // modal from the first show: exec() on a shown window would not make it so
+    setModal(true);
+    showMaximized();
+}
+
+DeletePanel::~DeletePanel()
+{
+    closeListModelBrand(_modelHead);
+}
+
+void DeletePanel::insertBrandOnCombo()
+{
+    QStringList names;
+    for (_listBrand* b = _brandHead; b != nullptr; b = b->next)
+        names << QString::fromLocal8Bit(b->name);
+    QSignalBlocker block(_comboBrand);
+    fillSortedCombo(_comboBrand, names);
+}
+
+void DeletePanel::selectBrandOnCombo()
+{
+    QByteArray brand = _comboBrand->currentText().toLocal8Bit();
+    _listBrand* node = findBrandPanel(_brandHead, brand.constData());
+    _modelHead = closeListModelBrand(_modelHead);
+    if (node != nullptr)
+        _modelHead = readListModelPanel(node->dir);
+    QStringList names;
+    for (_listModel* m = _modelHead; m != nullptr; m = m->next)
+        names << QString::fromLocal8Bit(m->name);
+    names.sort();
+    _listWidgetModel->clear();
+    _listWidgetModel->addItems(names);
+    _labelCount->setText(tr("Numero di Modelli : ") + QString::number(names.size()));
+    _modelSelected.clear();
+    _buttonDeleteModel->setEnabled(false);
+    _buttonDeleteBrand->setEnabled(node != nullptr);
+}
+
+void DeletePanel::selectModel(QListWidgetItem* item)
+{
+    if (item == nullptr)
+        return;
+    _modelSelected = item->text();
+    _buttonDeleteModel->setEnabled(true);
+}
+
+bool DeletePanel::askConfirmation(const QString& text)
+{
+    QMessageBox* box =
+        newMessageBox(this, QMessageBox::Question, tr("Cancella Modulo / Modello"), text);
+    box->setInformativeText(tr("Conferma?"));
+    box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box->setDefaultButton(QMessageBox::No);
+    bool yes = box->exec() == QMessageBox::Yes;
+    delete box;
+    return yes;
+}
+
+void DeletePanel::questionDeleteModel()
+{
+    if (askConfirmation(tr("Cancella Modello")))
+        eraseModel();
+}
+
+void DeletePanel::questionDeleteBrand()
+{
+    if (askConfirmation(tr("Cancella Marca")))
+        eraseBrand();
+}
+
+void DeletePanel::eraseModel()
+{
+    QByteArray brand = _comboBrand->currentText().toLocal8Bit();
+    QByteArray model = _modelSelected.toLocal8Bit();
+    _listBrand* brandNode = findBrandPanel(_brandHead, brand.constData());
+    _listModel* modelNode = findModelPanel(_modelHead, model.constData());
+    if (brandNode != nullptr && modelNode != nullptr) {
+        char saved[CWD_SIZE];
+        if (chDataPanelDir(saved, sizeof saved) == 0) {
+            if (chdir(brandNode->dir) == 0)
+                myUnlink(modelNode->file);
+            if (chdir(saved) != 0) {
+                // the former directory went away; the data layer enters by full paths
+            }
+        }
+    }
+    selectBrandOnCombo();
+}
+
+void DeletePanel::eraseBrand()
+{
+    QByteArray brand = _comboBrand->currentText().toLocal8Bit();
+    _listBrand* node = findBrandPanel(_brandHead, brand.constData());
+    if (node == nullptr)
+        return;
+    int models = 0;
+    for (_listModel* m = _modelHead; m != nullptr; m = m->next)
+        models++;
+    QProgressDialog progress(tr("Cancella Modulo..."), QString(), 0, models + 2, this);
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setStyleSheet(READ_PROGRESS_STYLE);
+    progress.setValue(0);
+
+    char saved[CWD_SIZE];
+    if (chDataPanelDir(saved, sizeof saved) == 0) {
+        int step = 0;
+        if (chdir(node->dir) == 0) {
+            // every entry of the brand, its name file included
+            DIR* dir = opendir("./");
+            while (dir != nullptr) {
+                struct dirent* entry = readdir(dir);
+                if (entry == nullptr)
+                    break;
+                if (strcmp(entry->d_name, ".") == 0 || strcmp(entry->d_name, "..") == 0)
+                    continue;
+                myUnlink(entry->d_name);
+                progress.setValue(++step);
+                QCoreApplication::processEvents();
+            }
+            if (dir != nullptr)
+                closedir(dir);
+            if (chdir("../") == 0)
+                myUnlink(node->dir);
+        }
+        if (chdir(saved) != 0) {
+            // the former directory went away; the data layer enters by full paths
+        }
+    }
+    progress.setValue(models + 2);
+
+    _modelHead = closeListModelBrand(_modelHead);
+    closeListBrandPanel(_brandHead);
+    _brandHead = readListBrandPanel(this);
+    insertBrandOnCombo();
+    {
+        QSignalBlocker block(_listWidgetModel);
+        selectBrandOnCombo();
+    }
+}
+
+void DeletePanel::keyPressEvent(QKeyEvent* event)
+{
+    QList<QWidget*> chain{_comboBrand, _listWidgetModel, _buttonDeleteModel, _buttonDeleteBrand,
+                          _buttonExit};
+    switch (event->key()) {
+    case Qt::Key_Down:
+        walkFocus(chain, true);
+        break;
+    case Qt::Key_Up:
+        walkFocus(chain, false);
+        break;
+    case Qt::Key_Return:
+        if (_listWidgetModel->hasFocus())
+            selectModel(_listWidgetModel->currentItem());
+        else if (_buttonDeleteModel->hasFocus())
+            questionDeleteModel();
+        else if (_buttonDeleteBrand->hasFocus())
+            questionDeleteBrand();
+        else if (_buttonExit->hasFocus())
+            reject();
+        break;
+    case Qt::Key_Escape:
+        reject();
+        break;
+    default:
+        break;
+    }
+    QWidget::keyPressEvent(event);
+}

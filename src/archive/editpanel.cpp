@@ -1,0 +1,291 @@
+#include "archive/editpanel.h"
+
+#include "data/datapanel.h"
+#include "toolkit/infobar.h"
+#include "toolkit/messagebox.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <cstdlib>
+#include <cstring>
+
+EditPanel::EditPanel(QWidget* parent, _listBrand* brandList)
+    : QDialog(parent), _brandHead(brandList), _modelHead(nullptr)
+{
+    setObjectName("EditPanel");
+    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
+    memset(&_record, 0, sizeof _record);
+    _infoBar = new InfoBar(this);
+    _infoBar->setTitle(tr("Modifica Modulo"));
+    setFormFont(this, _infoBar, 24);
+
+    _panelFeature& f = _record.feature;
+    _number[PMAX] = {new QLineEdit, &f.pmax, 1, 1000, 1, tr("Pmax"), tr("Pmax"), tr("Pmax : ")};
+    _number[NOCT] = {new QLineEdit, &f.noct, 0, 100, 1,
+                     tr("Temperatura Nominale della Cella - NOCT [°C]"), tr("NOCT [°C]"),
+                     tr("NOCT : ")};
+    _number[VMPP] = {new QLineEdit, &f.vmpp, 1, 300, 2, tr("Vmpp"), tr("Vmpp"), tr("Vmpp : ")};
+    _number[IMPP] = {new QLineEdit, &f.impp, 0.1f, 20, 2, tr("Impp"), tr("Impp"), tr("Impp : ")};
+    _number[VOC] = {new QLineEdit, &f.voc, 1, 300, 2, tr("Voc"), tr("Voc"), tr("Voc : ")};
+    _number[ISC] = {new QLineEdit, &f.isc, 0.1f, 20, 2, tr("Isc"), tr("Isc"), tr("Isc : ")};
+    _number[KISC] = {new QLineEdit, &f.kisc, 0.0001f, 1, 3,
+                     tr("Coefficiente di Temperatura di Isc [%/°C]"),
+                     tr("Coefficiente di Temperatura Isc [%/°C]"), tr("Alpha : ")};
+    _number[KVOC] = {new QLineEdit, &f.kvoc, -1, 1, 4,
+                     tr("Coefficiente di Temperatura di Voc [%/°C]"),
+                     tr("Coefficiente di Temperatura Voc [%/°C]"), tr("Beta : ")};
+    _number[KPMAX] = {new QLineEdit, &f.kpmax, -1, 1, 3,
+                      tr("Coefficiente di Temperatura di Pmax [%/°C]"),
+                      tr("Coefficiente di Temperatura Pmax [%/°C]"), tr("Gamma : ")};
+    _number[TOLLM] = {new QLineEdit, &f.tollm, -50, 50, 2, tr("Tolleranza Minima [%]"),
+                      tr("Tolleranza Minima [%]"), tr("Toll- : ")};
+    _number[TOLLP] = {new QLineEdit, &f.tollp, 0, 50, 2, tr("Tolleranza Massima [%]"),
+                      tr("Tolleranza Massima [%]"), tr("Toll+ : ")};
+    const QString label[NUMBERS] = {tr("Pmax"),  tr("NOCT"), tr("Vmpp"),  tr("Impp"),
+                                    tr("Voc"),   tr("Isc"),  tr("Alpha"), tr("Beta"),
+                                    tr("Gamma"), tr("Toll-"), tr("Toll+")};
+    const QString unit[NUMBERS] = {"W", "°C", "V", "A", "V", "A", "%/°C", "%/°C", "%/°C", "%", "%"};
+    const char* name[NUMBERS] = {"pmax", "noct", "vmpp", "impp", "voc", "isc",
+                                 "kisc", "kvoc", "kpmax", "tollm", "tollp"};
+
+    QGridLayout* grid = new QGridLayout;
+    _comboBrand = new QComboBox;
+    _comboBrand->setObjectName("brand");
+    grid->addWidget(new QLabel(tr("Marca")), 0, 0);
+    grid->addWidget(_comboBrand, 0, 1, 1, 2);
+    _comboModel = new QComboBox;
+    _comboModel->setObjectName("model");
+    grid->addWidget(new QLabel(tr("Modello")), 0, 3);
+    grid->addWidget(_comboModel, 0, 4, 1, 2);
+    for (int i = 0; i < NUMBERS; i++) {
+        _number[i].edit->setObjectName(name[i]);
+        setLineEditWidth(_number[i].edit, 120);
+        int row = i < KISC ? 1 + i : 2 + i - KISC;
+        createLineEdit(grid, _number[i].edit, label[i], unit[i], row, i < KISC ? 0 : 3);
+        _number[i].edit->installEventFilter(this);
+    }
+    _comboType = new QComboBox;
+    _comboType->setObjectName("type");
+    grid->addWidget(new QLabel(tr("Tipo")), 1, 3);
+    grid->addWidget(_comboType, 1, 4, 1, 2);
+
+    _buttonSave = new QPushButton(QIcon(":/icon/save.png"), tr("Salva"));
+    _buttonSave->setObjectName("Salva");
+    _buttonReset = new QPushButton(QIcon(":/icon/view-refresh.png"), tr("Reset"));
+    _buttonReset->setObjectName("Reset");
+    _buttonExit = new QPushButton(QIcon(":/icon/exit.png"), tr("Exit"));
+    _buttonExit->setObjectName("Exit");
+    QHBoxLayout* buttons = new QHBoxLayout;
+    buttons->addWidget(_buttonSave);
+    buttons->addWidget(_buttonReset);
+    buttons->addWidget(_buttonExit);
+
+    QVBoxLayout* box = new QVBoxLayout(this);
+    box->addWidget(_infoBar);
+    box->addLayout(grid);
+    box->addStretch();
+    box->addLayout(buttons);
+
+    prepareCombo();
+    resetFeature(&_record.feature);
+    insertBrandOnCombo();
+    selectBrandOnCombo();
+
+    connect(_comboType, &QComboBox::currentIndexChanged, this, &EditPanel::selectPanelType);
+    connect(_comboBrand, &QComboBox::currentIndexChanged, this, &EditPanel::selectBrandOnCombo);
+    connect(_comboModel, &QComboBox::currentIndexChanged, this, &EditPanel::selectModelOnCombo);
+    connect(_buttonSave, &QPushButton::clicked, this, &EditPanel::savePanelEdited);
+    connect(_buttonReset, &QPushButton::clicked, this, &EditPanel::modelReloaded);
+    connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
+    // modal from the first show: exec() on a shown window would not make it so
+    setModal(true);
+    showMaximized();
+}
+
+EditPanel::~EditPanel()
+{
+    closeListModelBrand(_modelHead);
+    takeNames(nullptr, nullptr);
+}
+
+void EditPanel::prepareCombo()
+{
+    const QString names[PANEL_TYPES] = {tr("Sconosciuto"),  tr("Monocristallino"),
+                                        tr("Policristallino"), tr("Film Sottile"),
+                                        tr("Amorfo"),       tr("MicroMorfo")};
+    for (int type = 0; type < PANEL_TYPES; type++) {
+        _typeMap.insert(names[type], type);
+        _comboType->addItem(names[type]);
+    }
+}
+
+void EditPanel::insertBrandOnCombo()
+{
+    QStringList names;
+    for (_listBrand* b = _brandHead; b != nullptr; b = b->next)
+        names << QString::fromLocal8Bit(b->name);
+    QSignalBlocker block(_comboBrand);
+    fillSortedCombo(_comboBrand, names);
+}
+
+void EditPanel::resetFeature(_panelFeature* feature)
+{
+    memset(feature, 0, sizeof *feature);
+}
+
+// The record names the model on screen; with none chosen it names nothing.
+void EditPanel::takeNames(_listBrand* brand, _listModel* model)
+{
+    free(_record.brandName);
+    free(_record.brandDir);
+    free(_record.modelName);
+    free(_record.modelFile);
+    _record.brandName = brand != nullptr ? strdup(brand->name) : nullptr;
+    _record.brandDir = brand != nullptr ? strdup(brand->dir) : nullptr;
+    _record.modelName = model != nullptr ? strdup(model->name) : nullptr;
+    _record.modelFile = model != nullptr ? strdup(model->file) : nullptr;
+}
+
+void EditPanel::selectBrandOnCombo()
+{
+    QSignalBlocker block(_comboModel);
+    _modelHead = closeListModelBrand(_modelHead);
+    QByteArray brand = _comboBrand->currentText().toLocal8Bit();
+    _listBrand* node = findBrandPanel(_brandHead, brand.constData());
+    if (node != nullptr)
+        _modelHead = readListModelPanel(node->dir);
+    QStringList names;
+    for (_listModel* m = _modelHead; m != nullptr; m = m->next)
+        names << QString::fromLocal8Bit(m->name);
+    fillSortedCombo(_comboModel, names);
+    _comboModel->setCurrentIndex(0);
+    selectModelOnCombo();
+}
+
+void EditPanel::selectModelOnCombo()
+{
+    QByteArray brand = _comboBrand->currentText().toLocal8Bit();
+    QByteArray model = _comboModel->currentText().toLocal8Bit();
+    _listBrand* brandNode = findBrandPanel(_brandHead, brand.constData());
+    _listModel* modelNode = findModelPanel(_modelHead, model.constData());
+    takeNames(brandNode, modelNode);
+    resetFeature(&_record.feature);
+    if (brandNode != nullptr && modelNode != nullptr)
+        getPanelFeature(brandNode->dir, modelNode->file, &_record.feature);
+    // nothing to write while no model is chosen
+    _buttonSave->setEnabled(modelNode != nullptr);
+    _buttonReset->setEnabled(modelNode != nullptr);
+    viewFeaturePanel();
+}
+
+void EditPanel::modelReloaded()
+{
+    resetFeature(&_record.feature);
+    if (_record.brandDir != nullptr && _record.modelFile != nullptr)
+        getPanelFeature(_record.brandDir, _record.modelFile, &_record.feature);
+    viewFeaturePanel();
+}
+
+void EditPanel::viewFeaturePanel()
+{
+    for (const FormNumber& field : _number)
+        showFormNumber(field);
+    QSignalBlocker block(_comboType);
+    int type = _record.feature.type;
+    _comboType->setCurrentIndex(type >= 0 && type < PANEL_TYPES ? type : 0);
+    resetCursorPosition();
+}
+
+void EditPanel::resetCursorPosition()
+{
+    for (const FormNumber& field : _number)
+        field.edit->setCursorPosition(0);
+}
+
+void EditPanel::selectPanelType()
+{
+    _record.feature.type = _typeMap.value(_comboType->currentText(), 0);
+    // the technology's default replaces any value typed before
+    _record.feature.kvoc = defaultKvoc(_record.feature.type);
+    showFormNumber(_number[KVOC]);
+}
+
+bool EditPanel::eventFilter(QObject* obj, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress) {
+        for (const FormNumber& f : _number) {
+            if (obj == f.edit) {
+                editLineObject(obj);
+                return true;
+            }
+        }
+    }
+    return QDialog::eventFilter(obj, event);
+}
+
+void EditPanel::editLineObject(QObject* obj)
+{
+    QMessageBox* box = newMessageBox(this, QMessageBox::Information, QString(),
+                                     tr("Testo inserito non valido."));
+    for (const FormNumber& field : _number)
+        if (obj == field.edit)
+            enterFormNumber(this, box, field);
+    delete box;
+}
+
+void EditPanel::savePanelEdited()
+{
+    QByteArray model = _comboModel->currentText().toLocal8Bit();
+    free(_record.modelName);
+    _record.modelName = _record.modelFile != nullptr ? strdup(model.constData()) : nullptr;
+    // the outcome of the write is not told on this screen
+    saveDataPanel(&_record);
+    showMessageBox(this, QMessageBox::Information, tr("Modifica Modulo"), tr("Modifica Modulo"),
+                   tr("Eseguito con successo."));
+}
+
+QList<QWidget*> EditPanel::focusChain() const
+{
+    QList<QWidget*> chain{_comboBrand, _comboModel};
+    for (int i = PMAX; i <= ISC; i++)
+        chain << _number[i].edit;
+    chain << _comboType;
+    for (int i = KISC; i <= TOLLP; i++)
+        chain << _number[i].edit;
+    chain << _buttonSave << _buttonReset << _buttonExit;
+    return chain;
+}
+
+void EditPanel::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Down:
+        walkFocus(focusChain(), true);
+        break;
+    case Qt::Key_Up:
+        walkFocus(focusChain(), false);
+        break;
+    case Qt::Key_Return:
+        if (_buttonSave->hasFocus())
+            savePanelEdited();
+        else if (_buttonReset->hasFocus())
+            modelReloaded();
+        else if (_buttonExit->hasFocus())
+            reject();
+        break;
+    case Qt::Key_Escape:
+        reject();
+        break;
+    default:
+        break;
+    }
+    QWidget::keyPressEvent(event);
+}

@@ -1,0 +1,290 @@
+#include "archive/newpanel.h"
+
+#include "data/datapanel.h"
+#include "toolkit/infobar.h"
+#include "toolkit/messagebox.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+
+NewPanel::NewPanel(QWidget* parent, _listBrand* brandList) : QDialog(parent), _brandHead(brandList)
+{
+    setObjectName("NewPanel");
+    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
+    _infoBar = new InfoBar(this);
+    _infoBar->setTitle(tr("Nuovo Modulo"));
+    setFormFont(this, _infoBar, 24);
+
+    const float none = std::numeric_limits<float>::max();
+    // Voc has no upper bound and Toll- may be negative here, on purpose.
+    _number[PMAX] = {new QLineEdit, &_feature.pmax, 1, 1000, 1, tr("Pmax"), tr("Pmax"), tr("Pmax : ")};
+    _number[NOCT] = {new QLineEdit, &_feature.noct, 0, 100, 1,
+                     tr("Temperatura Nominale della Cella - NOCT [°C]"), tr("NOCT [°C]"),
+                     tr("NOCT : ")};
+    _number[VMPP] = {new QLineEdit, &_feature.vmpp, 1, 300, 2, tr("Vmpp"), tr("Vmpp"), tr("Vmpp : ")};
+    _number[IMPP] = {new QLineEdit, &_feature.impp, 0.1f, 20, 2, tr("Impp"), tr("Impp"), tr("Impp : ")};
+    _number[VOC] = {new QLineEdit, &_feature.voc, 0, none, 2, tr("Voc"), tr("Voc"), tr("Voc : ")};
+    _number[ISC] = {new QLineEdit, &_feature.isc, 0.1f, 20, 2, tr("Isc"), tr("Isc"), tr("Isc : ")};
+    _number[KISC] = {new QLineEdit, &_feature.kisc, 0.0001f, 1, 3,
+                     tr("Coefficiente di Temperatura di Isc [%/°C]"),
+                     tr("Coefficiente di Temperatura Isc [%/°C]"), tr("Alpha : ")};
+    _number[KVOC] = {new QLineEdit, &_feature.kvoc, -1, 1, 4,
+                     tr("Coefficiente di Temperatura di Voc [%/°C]"),
+                     tr("Coefficiente di Temperatura Voc [%/°C]"), tr("Beta : ")};
+    _number[KPMAX] = {new QLineEdit, &_feature.kpmax, -1, 1, 3,
+                      tr("Coefficiente di Temperatura di Pmax [%/°C]"),
+                      tr("Coefficiente di Temperatura Pmax [%/°C]"), tr("Gamma : ")};
+    _number[TOLLM] = {new QLineEdit, &_feature.tollm, -50, 50, 2, tr("Tolleranza Minima [%]"),
+                      tr("Tolleranza Minima [%]"), tr("Toll- : ")};
+    _number[TOLLP] = {new QLineEdit, &_feature.tollp, 0, 50, 2, tr("Tolleranza Massima [%]"),
+                      tr("Tolleranza Massima [%]"), tr("Toll+ : ")};
+    const QString label[NUMBERS] = {tr("Pmax"),  tr("NOCT"), tr("Vmpp"),  tr("Impp"),
+                                    tr("Voc"),   tr("Isc"),  tr("Alpha"), tr("Beta"),
+                                    tr("Gamma"), tr("Toll-"), tr("Toll+")};
+    const QString unit[NUMBERS] = {"W", "°C", "V", "A", "V", "A", "%/°C", "%/°C", "%/°C", "%", "%"};
+    const char* name[NUMBERS] = {"pmax", "noct", "vmpp", "impp", "voc", "isc",
+                                 "kisc", "kvoc", "kpmax", "tollm", "tollp"};
+
+    QGridLayout* grid = new QGridLayout;
+    _comboBrand = new QComboBox;
+    _comboBrand->setObjectName("brand");
+    grid->addWidget(new QLabel(tr("Marca")), 0, 0);
+    grid->addWidget(_comboBrand, 0, 1, 1, 2);
+    _editModel = new QLineEdit;
+    _editModel->setObjectName("model");
+    setLineEditWidth(_editModel, 260);
+    createLineEdit(grid, _editModel, tr("Modello"), QString(), 0, 3);
+    for (int i = 0; i < NUMBERS; i++) {
+        _number[i].edit->setObjectName(name[i]);
+        setLineEditWidth(_number[i].edit, 120);
+        // the left column holds six rows, the right one the type and five more
+        int row = i < KISC ? 1 + i : 2 + i - KISC;
+        createLineEdit(grid, _number[i].edit, label[i], unit[i], row, i < KISC ? 0 : 3);
+        _number[i].edit->installEventFilter(this);
+    }
+    _editModel->installEventFilter(this);
+    _comboType = new QComboBox;
+    _comboType->setObjectName("type");
+    grid->addWidget(new QLabel(tr("Tipo")), 1, 3);
+    grid->addWidget(_comboType, 1, 4, 1, 2);
+
+    _buttonSave = new QPushButton(QIcon(":/icon/save.png"), tr("Salva"));
+    _buttonSave->setObjectName("Salva");
+    _buttonExit = new QPushButton(QIcon(":/icon/exit.png"), tr("Exit"));
+    _buttonExit->setObjectName("Exit");
+    QHBoxLayout* buttons = new QHBoxLayout;
+    buttons->addWidget(_buttonSave);
+    buttons->addWidget(_buttonExit);
+
+    QVBoxLayout* box = new QVBoxLayout(this);
+    box->addWidget(_infoBar);
+    box->addLayout(grid);
+    box->addStretch();
+    box->addLayout(buttons);
+
+    prepareCombo();
+    insertBrandOnCombo();
+    resetFeature();
+    resetLineEdit();
+    _buttonSave->setEnabled(false);
+
+    connect(_comboType, &QComboBox::currentIndexChanged, this, &NewPanel::selectPanelType);
+    connect(_buttonSave, &QPushButton::clicked, this, &NewPanel::savePanel);
+    connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
+    // modal from the first show: exec() on a shown window would not make it so
+    setModal(true);
+    showMaximized();
+}
+
+NewPanel::~NewPanel() = default;
+
+void NewPanel::prepareCombo()
+{
+    const QString names[PANEL_TYPES] = {tr("Sconosciuto"),  tr("Monocristallino"),
+                                        tr("Policristallino"), tr("Film Sottile"),
+                                        tr("Amorfo"),       tr("MicroMorfo")};
+    for (int type = 0; type < PANEL_TYPES; type++) {
+        _typeMap.insert(names[type], type);
+        _comboType->addItem(names[type]);
+    }
+}
+
+void NewPanel::insertBrandOnCombo()
+{
+    QStringList names;
+    for (_listBrand* b = _brandHead; b != nullptr; b = b->next)
+        names << QString::fromLocal8Bit(b->name);
+    fillSortedCombo(_comboBrand, names);
+}
+
+void NewPanel::resetFeature()
+{
+    memset(&_feature, 0, sizeof _feature);
+    for (bool& entered : _entered)
+        entered = false;
+    _enteredModel = false;
+    _enteredSave = false;
+}
+
+void NewPanel::resetLineEdit()
+{
+    _editModel->clear();
+    _modelName.clear();
+    for (const FormNumber& field : _number)
+        showFormNumber(field);
+}
+
+bool NewPanel::enteredFeature() const
+{
+    for (bool entered : _entered)
+        if (!entered)
+            return false;
+    return true;
+}
+
+bool NewPanel::enteredAllParamPanel() const
+{
+    return _enteredModel && enteredFeature();
+}
+
+void NewPanel::updateSaveButton()
+{
+    _enteredSave = enteredAllParamPanel();
+    _buttonSave->setEnabled(_enteredSave);
+}
+
+void NewPanel::selectPanelType()
+{
+    _feature.type = _typeMap.value(_comboType->currentText(), 0);
+    // the technology's default replaces any value typed before
+    _feature.kvoc = defaultKvoc(_feature.type);
+    showFormNumber(_number[KVOC]);
+    _entered[KVOC] = true;
+}
+
+bool NewPanel::eventFilter(QObject* obj, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress) {
+        bool field = obj == _editModel;
+        for (const FormNumber& f : _number)
+            field = field || obj == f.edit;
+        if (field) {
+            editLineObject(obj);
+            return true;
+        }
+    }
+    return QDialog::eventFilter(obj, event);
+}
+
+void NewPanel::editLineObject(QObject* obj)
+{
+    QMessageBox* box = newMessageBox(this, QMessageBox::Information, QString(),
+                                     tr("Testo inserito non valido."));
+    if (obj == _editModel) {
+        FormRound round = enterFormText(this, box, _editModel, _editModel->text(),
+                                        tr("Modifica Modello Modulo"), tr("Modello Modulo"),
+                                        tr("Modello vuoto."), tr("Troppo lungo."));
+        if (round == ROUND_ACCEPTED) {
+            _modelName = _editModel->text();
+            _enteredModel = true;
+        } else if (round == ROUND_REFUSED) {
+            _enteredModel = false;
+        }
+    }
+    for (int i = 0; i < NUMBERS; i++) {
+        if (obj != _number[i].edit)
+            continue;
+        FormRound round = enterFormNumber(this, box, _number[i]);
+        if (round != ROUND_LEFT)
+            _entered[i] = round == ROUND_ACCEPTED;
+    }
+    updateSaveButton();
+    delete box;
+}
+
+void NewPanel::savePanel()
+{
+    QByteArray brand = _comboBrand->currentText().toLocal8Bit();
+    QByteArray model = _modelName.toLocal8Bit();
+    _panel panel;
+    panel.brandName = nullptr;
+    panel.brandDir = nullptr;
+    panel.modelName = nullptr;
+    panel.modelFile = nullptr;
+    panel.feature = _feature;
+
+    QString text = tr("Nuovo Modulo");
+    _listBrand* node = findBrandPanel(_brandHead, brand.constData());
+    _listModel* list = nullptr;
+    if (node != nullptr) {
+        panel.brandName = strdup(node->name);
+        panel.brandDir = strdup(node->dir);
+        list = readListModelPanel(node->dir);
+        _listModel* known = findModelPanel(list, model.constData());
+        if (known != nullptr) {
+            text = tr("Aggiornamento Modulo");
+            panel.modelName = strdup(known->name);
+            panel.modelFile = strdup(known->file);
+        } else {
+            panel.modelName = strdup(model.constData());
+            panel.modelFile = newNameFile(model.constData(), _feature.pmax, node->dir);
+        }
+    }
+    // no brand in the archive yet: nothing to save into
+    int result = saveNewDataPanel(&panel);
+    showMessageBox(this, QMessageBox::Information, tr("Nuovo Modulo"), text,
+                   result == 0 ? tr("Eseguito con successo.") : tr("Errore nel salvataggio."));
+    closeListModelBrand(list);
+    free(panel.brandName);
+    free(panel.brandDir);
+    free(panel.modelName);
+    free(panel.modelFile);
+}
+
+QList<QWidget*> NewPanel::focusChain() const
+{
+    QList<QWidget*> chain{_comboBrand, _editModel};
+    for (int i = PMAX; i <= ISC; i++)
+        chain << _number[i].edit;
+    chain << _comboType;
+    for (int i = KISC; i <= TOLLP; i++)
+        chain << _number[i].edit;
+    chain << _buttonSave << _buttonExit;
+    return chain;
+}
+
+void NewPanel::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Down:
+        walkFocus(focusChain(), true);
+        break;
+    case Qt::Key_Up:
+        walkFocus(focusChain(), false);
+        break;
+    case Qt::Key_Return:
+        if (_editModel->hasFocus())
+            editLineObject(_editModel);
+        else if (_buttonSave->hasFocus())
+            savePanel();
+        else if (_buttonExit->hasFocus())
+            reject();
+        break;
+    case Qt::Key_Escape:
+        reject();
+        break;
+    default:
+        break;
+    }
+    QWidget::keyPressEvent(event);
+}

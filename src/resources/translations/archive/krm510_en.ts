@@ -1,0 +1,1186 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.0" language="en_US" sourcelanguage="it_IT">
+<context>
+    <name>ArchivePanel</name>
+    <message>
+        <location filename="../../../archive/archivepanel.cpp" line="+31"/>
+        <location line="+2"/>
+        <source>Archivio Moduli</source>
+        <translation>Pv module archive</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Nuovo Modulo</source>
+        <translation>New module</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modifica Modulo</source>
+        <translation>Edit module</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modifica Marca</source>
+        <translation>Edit brand</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cancella</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Trova</source>
+        <translation>Find</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Elenco</source>
+        <translation>List</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+</context>
+<context>
+    <name>DeletePanel</name>
+    <message>
+        <location filename="../../../archive/deletepanel.cpp" line="+31"/>
+        <location line="+86"/>
+        <source>Cancella Modulo / Modello</source>
+        <translation>Delete module / model</translation>
+    </message>
+    <message>
+        <location line="-81"/>
+        <source>Marca</source>
+        <translation>Brand</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <location line="+86"/>
+        <source>Cancella Modello</source>
+        <translation>Delete model</translation>
+    </message>
+    <message>
+        <location line="-84"/>
+        <location line="+90"/>
+        <source>Cancella Marca</source>
+        <translation>Delete brand</translation>
+    </message>
+    <message>
+        <location line="-88"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Modello</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <location line="+44"/>
+        <source>Numero di Modelli : </source>
+        <translation>Number of models : </translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Conferma?</source>
+        <translation>Confirm?</translation>
+    </message>
+    <message>
+        <location line="+48"/>
+        <source>Cancella Modulo...</source>
+        <translation>Deleting module...</translation>
+    </message>
+</context>
+<context>
+    <name>EditBrand</name>
+    <message>
+        <location filename="../../../archive/editbrand.cpp" line="+24"/>
+        <location line="+74"/>
+        <location line="+35"/>
+        <source>Modifica Marca</source>
+        <translation>Edit brand</translation>
+    </message>
+    <message>
+        <location line="-102"/>
+        <source>Salva</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <location line="+30"/>
+        <location line="+4"/>
+        <location line="+10"/>
+        <location line="+9"/>
+        <source>&lt;Nuova Marca&gt;</source>
+        <translation>&lt;New brand&gt;</translation>
+    </message>
+    <message>
+        <location line="-24"/>
+        <location line="+18"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Invalid text entered.</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <location line="+15"/>
+        <source>Marca Modulo</source>
+        <translation>Module brand</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Inserita nuova marca</source>
+        <translation>New brand added</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Aggiornamento eseguito.</source>
+        <translation>Update done.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Errore nel salvataggio.</source>
+        <translation>Error while saving.</translation>
+    </message>
+</context>
+<context>
+    <name>EditPanel</name>
+    <message>
+        <location filename="../../../archive/editpanel.cpp" line="+27"/>
+        <location line="+223"/>
+        <source>Modifica Modulo</source>
+        <translation>Edit module</translation>
+    </message>
+    <message>
+        <location line="-220"/>
+        <location line="+21"/>
+        <source>Pmax</source>
+        <translation>Pmax</translation>
+    </message>
+    <message>
+        <location line="-21"/>
+        <source>Pmax : </source>
+        <translation>Pmax : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Temperatura Nominale della Cella - NOCT [°C]</source>
+        <translation>Nominal operating cell temperature - NOCT [°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>NOCT [°C]</source>
+        <translation>NOCT [°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>NOCT : </source>
+        <translation>NOCT : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+17"/>
+        <source>Vmpp</source>
+        <translation>Vmpp</translation>
+    </message>
+    <message>
+        <location line="-17"/>
+        <source>Vmpp : </source>
+        <translation>Vmpp : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+16"/>
+        <source>Impp</source>
+        <translation>Impp</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Impp : </source>
+        <translation>Impp : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+16"/>
+        <source>Voc</source>
+        <translation>Voc</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Voc : </source>
+        <translation>Voc : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+15"/>
+        <source>Isc</source>
+        <translation>Isc</translation>
+    </message>
+    <message>
+        <location line="-15"/>
+        <source>Isc : </source>
+        <translation>Isc : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Isc [%/°C]</source>
+        <translation>Temperature coefficient of Isc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Isc [%/°C]</source>
+        <translation>Isc temperature coefficient [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Alpha : </source>
+        <translation>Alpha : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Voc [%/°C]</source>
+        <translation>Temperature coefficient of Voc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Voc [%/°C]</source>
+        <translation>Voc temperature coefficient [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Beta : </source>
+        <translation>Beta : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Pmax [%/°C]</source>
+        <translation>Temperature coefficient of Pmax [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Pmax [%/°C]</source>
+        <translation>Pmax temperature coefficient [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Gamma : </source>
+        <translation>Gamma : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+1"/>
+        <source>Tolleranza Minima [%]</source>
+        <translation>Minimum tolerance [%]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll- : </source>
+        <translation>Toll- : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+1"/>
+        <source>Tolleranza Massima [%]</source>
+        <translation>Maximum tolerance [%]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll+ : </source>
+        <translation>Toll+ : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>NOCT</source>
+        <translation>NOCT</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Alpha</source>
+        <translation>Alpha</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Beta</source>
+        <translation>Beta</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll-</source>
+        <translation>Toll-</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll+</source>
+        <translation>Toll+</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Marca</source>
+        <translation>Brand</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Modello</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Tipo</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Salva</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+37"/>
+        <source>Sconosciuto</source>
+        <translation>Unknown</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Monocristallino</source>
+        <translation>Monocrystalline</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Policristallino</source>
+        <translation>Polycrystalline</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Film Sottile</source>
+        <translation>Thin film</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Amorfo</source>
+        <translation>Amorphous</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MicroMorfo</source>
+        <translation>Micromorph</translation>
+    </message>
+    <message>
+        <location line="+114"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Invalid text entered.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Eseguito con successo.</source>
+        <translation>Done successfully.</translation>
+    </message>
+</context>
+<context>
+    <name>EditSelectedPanel</name>
+    <message>
+        <location filename="../../../archive/editselpanel.cpp" line="+37"/>
+        <location line="+180"/>
+        <source>Modifica Modulo</source>
+        <translation>Edit module</translation>
+    </message>
+    <message>
+        <location line="-177"/>
+        <location line="+21"/>
+        <source>Pmax</source>
+        <translation>Pmax</translation>
+    </message>
+    <message>
+        <location line="-21"/>
+        <source>Pmax : </source>
+        <translation>Pmax : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Temperatura Nominale della Cella - NOCT [°C]</source>
+        <translation>Nominal operating cell temperature - NOCT [°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>NOCT [°C]</source>
+        <translation>NOCT [°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>NOCT : </source>
+        <translation>NOCT : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+17"/>
+        <source>Vmpp</source>
+        <translation>Vmpp</translation>
+    </message>
+    <message>
+        <location line="-17"/>
+        <source>Vmpp : </source>
+        <translation>Vmpp : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+16"/>
+        <source>Impp</source>
+        <translation>Impp</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Impp : </source>
+        <translation>Impp : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+16"/>
+        <source>Voc</source>
+        <translation>Voc</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Voc : </source>
+        <translation>Voc : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+15"/>
+        <source>Isc</source>
+        <translation>Isc</translation>
+    </message>
+    <message>
+        <location line="-15"/>
+        <source>Isc : </source>
+        <translation>Isc : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Isc [%/°C]</source>
+        <translation>Temperature coefficient of Isc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Isc [%/°C]</source>
+        <translation>Isc temperature coefficient [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Alpha : </source>
+        <translation>Alpha : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Voc [%/°C]</source>
+        <translation>Temperature coefficient of Voc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Voc [%/°C]</source>
+        <translation>Voc temperature coefficient [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Beta : </source>
+        <translation>Beta : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Pmax [%/°C]</source>
+        <translation>Temperature coefficient of Pmax [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Pmax [%/°C]</source>
+        <translation>Pmax temperature coefficient [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Gamma : </source>
+        <translation>Gamma : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+1"/>
+        <source>Tolleranza Minima [%]</source>
+        <translation>Minimum tolerance [%]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll- : </source>
+        <translation>Toll- : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+1"/>
+        <source>Tolleranza Massima [%]</source>
+        <translation>Maximum tolerance [%]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll+ : </source>
+        <translation>Toll+ : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>NOCT</source>
+        <translation>NOCT</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Alpha</source>
+        <translation>Alpha</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Beta</source>
+        <translation>Beta</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll-</source>
+        <translation>Toll-</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll+</source>
+        <translation>Toll+</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Marca</source>
+        <translation>Brand</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Modello</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Tipo</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Salva</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <source>Sconosciuto</source>
+        <translation>Unknown</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Monocristallino</source>
+        <translation>Monocrystalline</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Policristallino</source>
+        <translation>Polycrystalline</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Film Sottile</source>
+        <translation>Thin film</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Amorfo</source>
+        <translation>Amorphous</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MicroMorfo</source>
+        <translation>Micromorph</translation>
+    </message>
+    <message>
+        <location line="+61"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Invalid text entered.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Modifica Modello Modulo</source>
+        <translation>Edit module model</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Modello Modulo</source>
+        <translation>Module model</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modello vuoto.</source>
+        <translation>Empty model.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Troppo lungo.</source>
+        <translation>Too long.</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>Eseguito con successo.</source>
+        <translation>Done successfully.</translation>
+    </message>
+</context>
+<context>
+    <name>FindPanel</name>
+    <message>
+        <location filename="../../../archive/findpanel.cpp" line="+27"/>
+        <source>Ricerca Modulo</source>
+        <translation>Module search</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <location line="+225"/>
+        <source>Modello trovato : </source>
+        <translation>Models found : </translation>
+    </message>
+    <message>
+        <location line="-223"/>
+        <source>Cerca</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+68"/>
+        <source>Pmax</source>
+        <translation>Pmax</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Pmax Minima</source>
+        <translation>Minimum Pmax</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Pmax Massima</source>
+        <translation>Maximum Pmax</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Vmpp</source>
+        <translation>Vmpp</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Vmpp Minima</source>
+        <translation>Minimum Vmpp</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Vmpp Massima</source>
+        <translation>Maximum Vmpp</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Impp</source>
+        <translation>Impp</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Impp Minima</source>
+        <translation>Minimum Impp</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Impp Massima</source>
+        <translation>Maximum Impp</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Pmax : </source>
+        <translation>Pmax : </translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Vmpp : </source>
+        <translation>Vmpp : </translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Impp : </source>
+        <translation>Impp : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Pmax non può essere negativa : </source>
+        <translation>Pmax cannot be negative : </translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Pmax Minima non può essere negativa : </source>
+        <translation>Minimum Pmax cannot be negative : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Pmax Massima non può essere negativa : </source>
+        <translation>Maximum Pmax cannot be negative : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Vmpp non può essere negativa : </source>
+        <translation>Vmpp cannot be negative : </translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Vmpp Minima non può essere negativa : </source>
+        <translation>Minimum Vmpp cannot be negative : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Vmpp Massima non può essere negativa : </source>
+        <translation>Maximum Vmpp cannot be negative : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Impp non può essere negativa : </source>
+        <translation>Impp cannot be negative : </translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Impp Minima non può essere negativa : </source>
+        <translation>Minimum Impp cannot be negative : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Impp Massima non può essere negativa : </source>
+        <translation>Maximum Impp cannot be negative : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Pmax minima è maggiore di Pmax massima</source>
+        <translation>Minimum Pmax is greater than maximum Pmax</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Vmpp Minima è maggiore di Vmpp Massima</source>
+        <translation>Minimum Vmpp is greater than maximum Vmpp</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Impp Minima è maggiore di Impp Massima.</source>
+        <translation>Minimum Impp is greater than maximum Impp.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Pmax Massima è minore di Pmax Minima.</source>
+        <translation>Maximum Pmax is less than minimum Pmax.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Vmpp Massima è minore di Vmpp Minima.</source>
+        <translation>Maximum Vmpp is less than minimum Vmpp.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Impp Massima è minore di Impp Minima.</source>
+        <translation>Maximum Impp is less than minimum Impp.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Invalid text entered.</translation>
+    </message>
+    <message>
+        <location line="+44"/>
+        <source>Marca</source>
+        <translation>Brand</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Modello</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <location line="+47"/>
+        <source>Ricerca Modulo...</source>
+        <translation>Searching module...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancella...</source>
+        <translation>Cancel...</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>Nessun risultato trovato.</source>
+        <translation>No result found.</translation>
+    </message>
+</context>
+<context>
+    <name>ListPanel</name>
+    <message>
+        <location filename="../../../archive/listpanel.cpp" line="+21"/>
+        <source>Lista Moduli</source>
+        <translation>Module list</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Marca</source>
+        <translation>Brand</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+53"/>
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Pmax</source>
+        <translation>Pmax</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Vmpp</source>
+        <translation>Vmpp</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Impp</source>
+        <translation>Impp</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Voc</source>
+        <translation>Voc</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Isc</source>
+        <translation>Isc</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Beta</source>
+        <translation>Beta</translation>
+    </message>
+</context>
+<context>
+    <name>NewPanel</name>
+    <message>
+        <location filename="../../../archive/newpanel.cpp" line="+25"/>
+        <location line="+200"/>
+        <location line="+19"/>
+        <source>Nuovo Modulo</source>
+        <translation>New module</translation>
+    </message>
+    <message>
+        <location line="-215"/>
+        <location line="+21"/>
+        <source>Pmax</source>
+        <translation>Pmax</translation>
+    </message>
+    <message>
+        <location line="-21"/>
+        <source>Pmax : </source>
+        <translation>Pmax : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Temperatura Nominale della Cella - NOCT [°C]</source>
+        <translation>Nominal operating cell temperature - NOCT [°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>NOCT [°C]</source>
+        <translation>NOCT [°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>NOCT : </source>
+        <translation>NOCT : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+17"/>
+        <source>Vmpp</source>
+        <translation>Vmpp</translation>
+    </message>
+    <message>
+        <location line="-17"/>
+        <source>Vmpp : </source>
+        <translation>Vmpp : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+16"/>
+        <source>Impp</source>
+        <translation>Impp</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Impp : </source>
+        <translation>Impp : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+16"/>
+        <source>Voc</source>
+        <translation>Voc</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Voc : </source>
+        <translation>Voc : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+15"/>
+        <source>Isc</source>
+        <translation>Isc</translation>
+    </message>
+    <message>
+        <location line="-15"/>
+        <source>Isc : </source>
+        <translation>Isc : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Isc [%/°C]</source>
+        <translation>Temperature coefficient of Isc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Isc [%/°C]</source>
+        <translation>Isc temperature coefficient [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Alpha : </source>
+        <translation>Alpha : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Voc [%/°C]</source>
+        <translation>Temperature coefficient of Voc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Voc [%/°C]</source>
+        <translation>Voc temperature coefficient [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Beta : </source>
+        <translation>Beta : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Pmax [%/°C]</source>
+        <translation>Temperature coefficient of Pmax [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Pmax [%/°C]</source>
+        <translation>Pmax temperature coefficient [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Gamma : </source>
+        <translation>Gamma : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+1"/>
+        <source>Tolleranza Minima [%]</source>
+        <translation>Minimum tolerance [%]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll- : </source>
+        <translation>Toll- : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+1"/>
+        <source>Tolleranza Massima [%]</source>
+        <translation>Maximum tolerance [%]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll+ : </source>
+        <translation>Toll+ : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>NOCT</source>
+        <translation>NOCT</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Alpha</source>
+        <translation>Alpha</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Beta</source>
+        <translation>Beta</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll-</source>
+        <translation>Toll-</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll+</source>
+        <translation>Toll+</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Marca</source>
+        <translation>Brand</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Modello</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Tipo</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Salva</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Sconosciuto</source>
+        <translation>Unknown</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Monocristallino</source>
+        <translation>Monocrystalline</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Policristallino</source>
+        <translation>Polycrystalline</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Film Sottile</source>
+        <translation>Thin film</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Amorfo</source>
+        <translation>Amorphous</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MicroMorfo</source>
+        <translation>Micromorph</translation>
+    </message>
+    <message>
+        <location line="+77"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Invalid text entered.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Modifica Modello Modulo</source>
+        <translation>Edit module model</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Modello Modulo</source>
+        <translation>Module model</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modello vuoto.</source>
+        <translation>Empty model.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Troppo lungo.</source>
+        <translation>Too long.</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>Aggiornamento Modulo</source>
+        <translation>Module update</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Eseguito con successo.</source>
+        <translation>Done successfully.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Errore nel salvataggio.</source>
+        <translation>Error while saving.</translation>
+    </message>
+</context>
+</TS>

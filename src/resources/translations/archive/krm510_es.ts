@@ -1,0 +1,1186 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.0" language="es_ES" sourcelanguage="it_IT">
+<context>
+    <name>ArchivePanel</name>
+    <message>
+        <location filename="../../../archive/archivepanel.cpp" line="+31"/>
+        <location line="+2"/>
+        <source>Archivio Moduli</source>
+        <translation>Fichero de Módulos</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Nuovo Modulo</source>
+        <translation>Nuevo módulo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modifica Modulo</source>
+        <translation>Modificar módulo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modifica Marca</source>
+        <translation>Modificar marca</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cancella</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Trova</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Elenco</source>
+        <translation>Lista</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+</context>
+<context>
+    <name>DeletePanel</name>
+    <message>
+        <location filename="../../../archive/deletepanel.cpp" line="+31"/>
+        <location line="+86"/>
+        <source>Cancella Modulo / Modello</source>
+        <translation>Borrar módulo / modelo</translation>
+    </message>
+    <message>
+        <location line="-81"/>
+        <source>Marca</source>
+        <translation>Marca</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <location line="+86"/>
+        <source>Cancella Modello</source>
+        <translation>Borrar modelo</translation>
+    </message>
+    <message>
+        <location line="-84"/>
+        <location line="+90"/>
+        <source>Cancella Marca</source>
+        <translation>Borrar marca</translation>
+    </message>
+    <message>
+        <location line="-88"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Modello</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <location line="+44"/>
+        <source>Numero di Modelli : </source>
+        <translation>Número de modelos : </translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Conferma?</source>
+        <translation>¿Confirmar?</translation>
+    </message>
+    <message>
+        <location line="+48"/>
+        <source>Cancella Modulo...</source>
+        <translation>Borrando módulo...</translation>
+    </message>
+</context>
+<context>
+    <name>EditBrand</name>
+    <message>
+        <location filename="../../../archive/editbrand.cpp" line="+24"/>
+        <location line="+74"/>
+        <location line="+35"/>
+        <source>Modifica Marca</source>
+        <translation>Modificar marca</translation>
+    </message>
+    <message>
+        <location line="-102"/>
+        <source>Salva</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <location line="+30"/>
+        <location line="+4"/>
+        <location line="+10"/>
+        <location line="+9"/>
+        <source>&lt;Nuova Marca&gt;</source>
+        <translation>&lt;Nueva marca&gt;</translation>
+    </message>
+    <message>
+        <location line="-24"/>
+        <location line="+18"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Texto introducido no válido.</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <location line="+15"/>
+        <source>Marca Modulo</source>
+        <translation>Marca del módulo</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Inserita nuova marca</source>
+        <translation>Nueva marca añadida</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Aggiornamento eseguito.</source>
+        <translation>Actualización realizada.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Errore nel salvataggio.</source>
+        <translation>Error al guardar.</translation>
+    </message>
+</context>
+<context>
+    <name>EditPanel</name>
+    <message>
+        <location filename="../../../archive/editpanel.cpp" line="+27"/>
+        <location line="+223"/>
+        <source>Modifica Modulo</source>
+        <translation>Modificar módulo</translation>
+    </message>
+    <message>
+        <location line="-220"/>
+        <location line="+21"/>
+        <source>Pmax</source>
+        <translation>Pmax</translation>
+    </message>
+    <message>
+        <location line="-21"/>
+        <source>Pmax : </source>
+        <translation>Pmax : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Temperatura Nominale della Cella - NOCT [°C]</source>
+        <translation>Temperatura nominal de la célula - NOCT [°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>NOCT [°C]</source>
+        <translation>NOCT [°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>NOCT : </source>
+        <translation>NOCT : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+17"/>
+        <source>Vmpp</source>
+        <translation>Vmpp</translation>
+    </message>
+    <message>
+        <location line="-17"/>
+        <source>Vmpp : </source>
+        <translation>Vmpp : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+16"/>
+        <source>Impp</source>
+        <translation>Impp</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Impp : </source>
+        <translation>Impp : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+16"/>
+        <source>Voc</source>
+        <translation>Voc</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Voc : </source>
+        <translation>Voc : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+15"/>
+        <source>Isc</source>
+        <translation>Isc</translation>
+    </message>
+    <message>
+        <location line="-15"/>
+        <source>Isc : </source>
+        <translation>Isc : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Isc [%/°C]</source>
+        <translation>Coeficiente de temperatura de Isc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Isc [%/°C]</source>
+        <translation>Coeficiente de temperatura Isc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Alpha : </source>
+        <translation>Alpha : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Voc [%/°C]</source>
+        <translation>Coeficiente de temperatura de Voc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Voc [%/°C]</source>
+        <translation>Coeficiente de temperatura Voc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Beta : </source>
+        <translation>Beta : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Pmax [%/°C]</source>
+        <translation>Coeficiente de temperatura de Pmax [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Pmax [%/°C]</source>
+        <translation>Coeficiente de temperatura Pmax [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Gamma : </source>
+        <translation>Gamma : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+1"/>
+        <source>Tolleranza Minima [%]</source>
+        <translation>Tolerancia mínima [%]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll- : </source>
+        <translation>Toll- : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+1"/>
+        <source>Tolleranza Massima [%]</source>
+        <translation>Tolerancia máxima [%]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll+ : </source>
+        <translation>Toll+ : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>NOCT</source>
+        <translation>NOCT</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Alpha</source>
+        <translation>Alpha</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Beta</source>
+        <translation>Beta</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll-</source>
+        <translation>Toll-</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll+</source>
+        <translation>Toll+</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Marca</source>
+        <translation>Marca</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Modello</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Tipo</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Salva</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Reset</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+37"/>
+        <source>Sconosciuto</source>
+        <translation>Desconocido</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Monocristallino</source>
+        <translation>Monocristalino</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Policristallino</source>
+        <translation>Policristalino</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Film Sottile</source>
+        <translation>Capa fina</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Amorfo</source>
+        <translation>Amorfo</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MicroMorfo</source>
+        <translation>Micromorfo</translation>
+    </message>
+    <message>
+        <location line="+114"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Texto introducido no válido.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Eseguito con successo.</source>
+        <translation>Realizado con éxito.</translation>
+    </message>
+</context>
+<context>
+    <name>EditSelectedPanel</name>
+    <message>
+        <location filename="../../../archive/editselpanel.cpp" line="+37"/>
+        <location line="+180"/>
+        <source>Modifica Modulo</source>
+        <translation>Modificar módulo</translation>
+    </message>
+    <message>
+        <location line="-177"/>
+        <location line="+21"/>
+        <source>Pmax</source>
+        <translation>Pmax</translation>
+    </message>
+    <message>
+        <location line="-21"/>
+        <source>Pmax : </source>
+        <translation>Pmax : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Temperatura Nominale della Cella - NOCT [°C]</source>
+        <translation>Temperatura nominal de la célula - NOCT [°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>NOCT [°C]</source>
+        <translation>NOCT [°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>NOCT : </source>
+        <translation>NOCT : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+17"/>
+        <source>Vmpp</source>
+        <translation>Vmpp</translation>
+    </message>
+    <message>
+        <location line="-17"/>
+        <source>Vmpp : </source>
+        <translation>Vmpp : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+16"/>
+        <source>Impp</source>
+        <translation>Impp</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Impp : </source>
+        <translation>Impp : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+16"/>
+        <source>Voc</source>
+        <translation>Voc</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Voc : </source>
+        <translation>Voc : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+15"/>
+        <source>Isc</source>
+        <translation>Isc</translation>
+    </message>
+    <message>
+        <location line="-15"/>
+        <source>Isc : </source>
+        <translation>Isc : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Isc [%/°C]</source>
+        <translation>Coeficiente de temperatura de Isc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Isc [%/°C]</source>
+        <translation>Coeficiente de temperatura Isc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Alpha : </source>
+        <translation>Alpha : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Voc [%/°C]</source>
+        <translation>Coeficiente de temperatura de Voc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Voc [%/°C]</source>
+        <translation>Coeficiente de temperatura Voc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Beta : </source>
+        <translation>Beta : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Pmax [%/°C]</source>
+        <translation>Coeficiente de temperatura de Pmax [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Pmax [%/°C]</source>
+        <translation>Coeficiente de temperatura Pmax [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Gamma : </source>
+        <translation>Gamma : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+1"/>
+        <source>Tolleranza Minima [%]</source>
+        <translation>Tolerancia mínima [%]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll- : </source>
+        <translation>Toll- : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+1"/>
+        <source>Tolleranza Massima [%]</source>
+        <translation>Tolerancia máxima [%]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll+ : </source>
+        <translation>Toll+ : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>NOCT</source>
+        <translation>NOCT</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Alpha</source>
+        <translation>Alpha</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Beta</source>
+        <translation>Beta</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll-</source>
+        <translation>Toll-</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll+</source>
+        <translation>Toll+</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Marca</source>
+        <translation>Marca</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Modello</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Tipo</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Salva</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Reset</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <source>Sconosciuto</source>
+        <translation>Desconocido</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Monocristallino</source>
+        <translation>Monocristalino</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Policristallino</source>
+        <translation>Policristalino</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Film Sottile</source>
+        <translation>Capa fina</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Amorfo</source>
+        <translation>Amorfo</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MicroMorfo</source>
+        <translation>Micromorfo</translation>
+    </message>
+    <message>
+        <location line="+61"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Texto introducido no válido.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Modifica Modello Modulo</source>
+        <translation>Modificar modelo del módulo</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Modello Modulo</source>
+        <translation>Modelo del módulo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modello vuoto.</source>
+        <translation>Modelo vacío.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Troppo lungo.</source>
+        <translation>Demasiado largo.</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>Eseguito con successo.</source>
+        <translation>Realizado con éxito.</translation>
+    </message>
+</context>
+<context>
+    <name>FindPanel</name>
+    <message>
+        <location filename="../../../archive/findpanel.cpp" line="+27"/>
+        <source>Ricerca Modulo</source>
+        <translation>Búsqueda de módulo</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <location line="+225"/>
+        <source>Modello trovato : </source>
+        <translation>Modelos encontrados : </translation>
+    </message>
+    <message>
+        <location line="-223"/>
+        <source>Cerca</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Reset</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+68"/>
+        <source>Pmax</source>
+        <translation>Pmax</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Pmax Minima</source>
+        <translation>Pmax mínima</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Pmax Massima</source>
+        <translation>Pmax máxima</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Vmpp</source>
+        <translation>Vmpp</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Vmpp Minima</source>
+        <translation>Vmpp mínima</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Vmpp Massima</source>
+        <translation>Vmpp máxima</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Impp</source>
+        <translation>Impp</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Impp Minima</source>
+        <translation>Impp mínima</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Impp Massima</source>
+        <translation>Impp máxima</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Pmax : </source>
+        <translation>Pmax : </translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Vmpp : </source>
+        <translation>Vmpp : </translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Impp : </source>
+        <translation>Impp : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Pmax non può essere negativa : </source>
+        <translation>Pmax no puede ser negativa : </translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Pmax Minima non può essere negativa : </source>
+        <translation>Pmax mínima no puede ser negativa : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Pmax Massima non può essere negativa : </source>
+        <translation>Pmax máxima no puede ser negativa : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Vmpp non può essere negativa : </source>
+        <translation>Vmpp no puede ser negativa : </translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Vmpp Minima non può essere negativa : </source>
+        <translation>Vmpp mínima no puede ser negativa : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Vmpp Massima non può essere negativa : </source>
+        <translation>Vmpp máxima no puede ser negativa : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Impp non può essere negativa : </source>
+        <translation>Impp no puede ser negativa : </translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Impp Minima non può essere negativa : </source>
+        <translation>Impp mínima no puede ser negativa : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Impp Massima non può essere negativa : </source>
+        <translation>Impp máxima no puede ser negativa : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Pmax minima è maggiore di Pmax massima</source>
+        <translation>Pmax mínima es mayor que Pmax máxima</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Vmpp Minima è maggiore di Vmpp Massima</source>
+        <translation>Vmpp mínima es mayor que Vmpp máxima</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Impp Minima è maggiore di Impp Massima.</source>
+        <translation>Impp mínima es mayor que Impp máxima.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Pmax Massima è minore di Pmax Minima.</source>
+        <translation>Pmax máxima es menor que Pmax mínima.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Vmpp Massima è minore di Vmpp Minima.</source>
+        <translation>Vmpp máxima es menor que Vmpp mínima.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Impp Massima è minore di Impp Minima.</source>
+        <translation>Impp máxima es menor que Impp mínima.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Texto introducido no válido.</translation>
+    </message>
+    <message>
+        <location line="+44"/>
+        <source>Marca</source>
+        <translation>Marca</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Modello</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <location line="+47"/>
+        <source>Ricerca Modulo...</source>
+        <translation>Buscando módulo...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancella...</source>
+        <translation>Cancelar...</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>Nessun risultato trovato.</source>
+        <translation>Ningún resultado encontrado.</translation>
+    </message>
+</context>
+<context>
+    <name>ListPanel</name>
+    <message>
+        <location filename="../../../archive/listpanel.cpp" line="+21"/>
+        <source>Lista Moduli</source>
+        <translation>Lista de módulos</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Marca</source>
+        <translation>Marca</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+53"/>
+        <source>Model</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Pmax</source>
+        <translation>Pmax</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Vmpp</source>
+        <translation>Vmpp</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Impp</source>
+        <translation>Impp</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Voc</source>
+        <translation>Voc</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Isc</source>
+        <translation>Isc</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Beta</source>
+        <translation>Beta</translation>
+    </message>
+</context>
+<context>
+    <name>NewPanel</name>
+    <message>
+        <location filename="../../../archive/newpanel.cpp" line="+25"/>
+        <location line="+200"/>
+        <location line="+19"/>
+        <source>Nuovo Modulo</source>
+        <translation>Nuevo módulo</translation>
+    </message>
+    <message>
+        <location line="-215"/>
+        <location line="+21"/>
+        <source>Pmax</source>
+        <translation>Pmax</translation>
+    </message>
+    <message>
+        <location line="-21"/>
+        <source>Pmax : </source>
+        <translation>Pmax : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Temperatura Nominale della Cella - NOCT [°C]</source>
+        <translation>Temperatura nominal de la célula - NOCT [°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>NOCT [°C]</source>
+        <translation>NOCT [°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>NOCT : </source>
+        <translation>NOCT : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+17"/>
+        <source>Vmpp</source>
+        <translation>Vmpp</translation>
+    </message>
+    <message>
+        <location line="-17"/>
+        <source>Vmpp : </source>
+        <translation>Vmpp : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+16"/>
+        <source>Impp</source>
+        <translation>Impp</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Impp : </source>
+        <translation>Impp : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+16"/>
+        <source>Voc</source>
+        <translation>Voc</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Voc : </source>
+        <translation>Voc : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+15"/>
+        <source>Isc</source>
+        <translation>Isc</translation>
+    </message>
+    <message>
+        <location line="-15"/>
+        <source>Isc : </source>
+        <translation>Isc : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Isc [%/°C]</source>
+        <translation>Coeficiente de temperatura de Isc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Isc [%/°C]</source>
+        <translation>Coeficiente de temperatura Isc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Alpha : </source>
+        <translation>Alpha : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Voc [%/°C]</source>
+        <translation>Coeficiente de temperatura de Voc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Voc [%/°C]</source>
+        <translation>Coeficiente de temperatura Voc [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Beta : </source>
+        <translation>Beta : </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Coefficiente di Temperatura di Pmax [%/°C]</source>
+        <translation>Coeficiente de temperatura de Pmax [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Coefficiente di Temperatura Pmax [%/°C]</source>
+        <translation>Coeficiente de temperatura Pmax [%/°C]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Gamma : </source>
+        <translation>Gamma : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+1"/>
+        <source>Tolleranza Minima [%]</source>
+        <translation>Tolerancia mínima [%]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll- : </source>
+        <translation>Toll- : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+1"/>
+        <source>Tolleranza Massima [%]</source>
+        <translation>Tolerancia máxima [%]</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll+ : </source>
+        <translation>Toll+ : </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>NOCT</source>
+        <translation>NOCT</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Alpha</source>
+        <translation>Alpha</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Beta</source>
+        <translation>Beta</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll-</source>
+        <translation>Toll-</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Toll+</source>
+        <translation>Toll+</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Marca</source>
+        <translation>Marca</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Modello</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Tipo</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Salva</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Sconosciuto</source>
+        <translation>Desconocido</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Monocristallino</source>
+        <translation>Monocristalino</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Policristallino</source>
+        <translation>Policristalino</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Film Sottile</source>
+        <translation>Capa fina</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Amorfo</source>
+        <translation>Amorfo</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MicroMorfo</source>
+        <translation>Micromorfo</translation>
+    </message>
+    <message>
+        <location line="+77"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Texto introducido no válido.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Modifica Modello Modulo</source>
+        <translation>Modificar modelo del módulo</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Modello Modulo</source>
+        <translation>Modelo del módulo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modello vuoto.</source>
+        <translation>Modelo vacío.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Troppo lungo.</source>
+        <translation>Demasiado largo.</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>Aggiornamento Modulo</source>
+        <translation>Actualización del módulo</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Eseguito con successo.</source>
+        <translation>Realizado con éxito.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Errore nel salvataggio.</source>
+        <translation>Error al guardar.</translation>
+    </message>
+</context>
+</TS>
