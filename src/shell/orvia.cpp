@@ -169,6 +169,8 @@ void Orvia::goToPanelIV()
     PanelIV* panel = new PanelIV(this);
     panel->exec();
     delete panel;
+}
+
 void Orvia::goToArchivePanel()
 {
     ArchivePanel* screen = new ArchivePanel(this);
