@@ -1,5 +1,7 @@
 #include "measure/refpanel.h"
 
+#include "archive/editselpanel.h"
+#include "archive/newpanel.h"
 #include "data/datapanel.h"
 #include "toolkit/infobar.h"
 
@@ -51,9 +53,11 @@ ReferencePanel::ReferencePanel(QWidget* parent)
     _buttonConfirm = new QPushButton(QIcon(":/icon/confirm.png"), tr("Conferma"));
     _buttonConfirm->setObjectName("Conferma");
     _buttonConfirm->setEnabled(false);
-    // "Modifica" and "Nuovo Modello" (the module editor and the creation of a
-    // model) take their place between Confirm and Exit once the module
-    // archive screens are part of the program.
+    _buttonEdit = new QPushButton(QIcon(":/icon/edit.png"), tr("Modifica"));
+    _buttonEdit->setObjectName("Modifica");
+    _buttonEdit->setEnabled(false);
+    _buttonNew = new QPushButton(QIcon(":/icon/panelnew.png"), tr("Nuovo Modello"));
+    _buttonNew->setObjectName("Nuovo Modello");
     _buttonExit = new QPushButton(QIcon(":/icon/exit.png"), tr("Exit"));
     _buttonExit->setObjectName("Exit");
     _buttonExit->setAutoDefault(true);
@@ -65,6 +69,8 @@ ReferencePanel::ReferencePanel(QWidget* parent)
     lists->addLayout(labelledList(tr("Caratteristiche"), _listWidgetFeature));
     QHBoxLayout* buttons = new QHBoxLayout;
     buttons->addWidget(_buttonConfirm);
+    buttons->addWidget(_buttonEdit);
+    buttons->addWidget(_buttonNew);
     buttons->addWidget(_buttonExit);
     QVBoxLayout* page = new QVBoxLayout(this);
     page->addWidget(_infoBar);
@@ -72,6 +78,8 @@ ReferencePanel::ReferencePanel(QWidget* parent)
     page->addLayout(buttons);
 
     connect(_buttonConfirm, &QPushButton::clicked, this, &ReferencePanel::goToConfirmPanel);
+    connect(_buttonEdit, &QPushButton::clicked, this, &ReferencePanel::goToEditPanel);
+    connect(_buttonNew, &QPushButton::clicked, this, &ReferencePanel::goToNewPanel);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
     connect(_listWidgetBrand, &QListWidget::itemSelectionChanged, this,
             &ReferencePanel::showModel);
@@ -124,6 +132,7 @@ void ReferencePanel::showModel()
             _listWidgetModel->addItem(QString::fromLocal8Bit(m->name));
     }
     _modelChosen = false;
+    _buttonEdit->setEnabled(false);
     _buttonConfirm->setEnabled(false);
 }
 
@@ -148,6 +157,7 @@ void ReferencePanel::showCharacteristics()
     _listWidgetFeature->addItem(featureRow("Voc", _feature.voc, 2, " V"));
     _listWidgetFeature->addItem(featureRow("Isc", _feature.isc, 2, " A"));
     _modelChosen = true;
+    _buttonEdit->setEnabled(true);
     _buttonConfirm->setEnabled(true);
 }
 
@@ -156,6 +166,36 @@ void ReferencePanel::goToConfirmPanel()
     _selectedBrand = _brandCursor;
     _selectedModel = _modelCursor;
     accept();
+}
+
+void ReferencePanel::goToEditPanel()
+{
+    EditSelectedPanel* editor = new EditSelectedPanel(this, _brandDirName, _modelFileName);
+    editor->exec();
+    delete editor;
+    showModel(); // the models again, as the editor may have renamed one
+    _modelChosen = false;
+    _buttonEdit->setEnabled(false);
+    _buttonConfirm->setEnabled(false);
+}
+
+void ReferencePanel::goToNewPanel()
+{
+    _brandCursor = _brandHead;
+    NewPanel* creator = new NewPanel(this, _brandCursor);
+    creator->exec();
+    _brandCursor = _brandHead = creator->_brandHead;
+    delete creator;
+    closeListModelBrand(_modelHead);
+    closeListBrandPanel(_brandHead);
+    _brandHead = _brandCursor = nullptr;
+    _modelHead = _modelCursor = nullptr;
+    _listWidgetModel->clear();
+    _listWidgetFeature->clear();
+    readBrandPanel();
+    _modelChosen = false;
+    _buttonEdit->setEnabled(false);
+    _buttonConfirm->setEnabled(false);
 }
 
 void ReferencePanel::keyPressEvent(QKeyEvent* event)
@@ -170,6 +210,10 @@ void ReferencePanel::keyPressEvent(QKeyEvent* event)
             showModel();
         else if (_listWidgetModel->hasFocus())
             showCharacteristics();
+        else if (_buttonEdit->hasFocus())
+            goToEditPanel();
+        else if (_buttonNew->hasFocus())
+            goToNewPanel();
         break;
     case Qt::Key_Escape:
         reject();

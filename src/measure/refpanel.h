@@ -24,6 +24,8 @@ public:
 
 public slots:
     void goToConfirmPanel();
+    void goToEditPanel();
+    void goToNewPanel();
     void showModel();
     void showCharacteristics();
 
@@ -34,6 +36,8 @@ private:
     void readBrandPanel();
 
     QPushButton* _buttonConfirm;
+    QPushButton* _buttonEdit;
+    QPushButton* _buttonNew;
     QPushButton* _buttonExit;
     QListWidget* _listWidgetBrand;
     QListWidget* _listWidgetModel;

@@ -414,7 +414,7 @@ Repeat.</translation>
 <context>
     <name>ReferencePanel</name>
     <message>
-        <location filename="../../../measure/refpanel.cpp" line="+43"/>
+        <location filename="../../../measure/refpanel.cpp" line="+45"/>
         <source>Modulo di Riferimento</source>
         <translation>Reference module</translation>
     </message>
@@ -424,7 +424,17 @@ Repeat.</translation>
         <translation>Confirm</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+3"/>
+        <source>Modifica</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Nuovo Modello</source>
+        <translation>New model</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
@@ -444,7 +454,7 @@ Repeat.</translation>
         <translation>Characteristics</translation>
     </message>
     <message>
-        <location line="+32"/>
+        <location line="+36"/>
         <location line="+25"/>
         <source>Vuoto</source>
         <translation>Empty</translation>

@@ -414,7 +414,7 @@ Repita et test.</translation>
 <context>
     <name>ReferencePanel</name>
     <message>
-        <location filename="../../../measure/refpanel.cpp" line="+43"/>
+        <location filename="../../../measure/refpanel.cpp" line="+45"/>
         <source>Modulo di Riferimento</source>
         <translation>Módulo de referencia</translation>
     </message>
@@ -424,7 +424,17 @@ Repita et test.</translation>
         <translation>Confirmar</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+3"/>
+        <source>Modifica</source>
+        <translation>Modificar</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Nuovo Modello</source>
+        <translation>Nuevo modelo</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>Exit</source>
         <translation>Salir</translation>
     </message>
@@ -444,7 +454,7 @@ Repita et test.</translation>
         <translation>Características</translation>
     </message>
     <message>
-        <location line="+32"/>
+        <location line="+36"/>
         <location line="+25"/>
         <source>Vuoto</source>
         <translation>Vacío</translation>

@@ -414,7 +414,7 @@ Repeter le test.</translation>
 <context>
     <name>ReferencePanel</name>
     <message>
-        <location filename="../../../measure/refpanel.cpp" line="+43"/>
+        <location filename="../../../measure/refpanel.cpp" line="+45"/>
         <source>Modulo di Riferimento</source>
         <translation>Module de référence</translation>
     </message>
@@ -424,7 +424,17 @@ Repeter le test.</translation>
         <translation>Confirmer</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+3"/>
+        <source>Modifica</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Nuovo Modello</source>
+        <translation>Nouveau modèle</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>Exit</source>
         <translation>Sortie</translation>
     </message>
@@ -444,7 +454,7 @@ Repeter le test.</translation>
         <translation>Caractéristiques</translation>
     </message>
     <message>
-        <location line="+32"/>
+        <location line="+36"/>
         <location line="+25"/>
         <source>Vuoto</source>
         <translation>Vide</translation>

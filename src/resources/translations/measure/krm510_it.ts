@@ -414,7 +414,7 @@ Ripetere.</translation>
 <context>
     <name>ReferencePanel</name>
     <message>
-        <location filename="../../../measure/refpanel.cpp" line="+43"/>
+        <location filename="../../../measure/refpanel.cpp" line="+45"/>
         <source>Modulo di Riferimento</source>
         <translation>Modulo di Riferimento</translation>
     </message>
@@ -424,7 +424,17 @@ Ripetere.</translation>
         <translation>Conferma</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+3"/>
+        <source>Modifica</source>
+        <translation>Modifica</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Nuovo Modello</source>
+        <translation>Nuovo Modello</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
@@ -444,7 +454,7 @@ Ripetere.</translation>
         <translation>Caratteristiche</translation>
     </message>
     <message>
-        <location line="+32"/>
+        <location line="+36"/>
         <location line="+25"/>
         <source>Vuoto</source>
         <translation>Vuoto</translation>
