@@ -709,22 +709,7 @@ void PanelIV::displayClock()
     QFont font = _labelClock->font();
     font.setPointSize(28);
     _labelClock->setFont(font);
-    const QDateTime now = QDateTime::currentDateTime();
-    QString text;
-    switch (_config.tclock) {
-    case CLOCK_DATE_TIME:
-        text = now.toString("d/MM/yy") + "\n" + now.toString("HH:mm");
-        break;
-    case CLOCK_DATE:
-        text = now.toString("d/MM/yy") + "\n";
-        break;
-    case CLOCK_TIME:
-        text = now.toString("HH:mm");
-        break;
-    default:
-        break;
-    }
-    _labelClock->setText(text);
+    _labelClock->setText(formatClock(_config.tclock, QDateTime::currentDateTime(), "\n"));
 }
 
 void PanelIV::displayPowerSupply()

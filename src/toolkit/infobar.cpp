@@ -120,20 +120,19 @@ QString InfoBar::clockText() const
 
 void InfoBar::visualClock()
 {
-    QDateTime now = QDateTime::currentDateTime();
-    QString text;
-    switch (config.tclock) {
+    clockLabel->setText(formatClock(config.tclock, QDateTime::currentDateTime(), " "));
+}
+
+QString formatClock(int mode, const QDateTime& now, const QString& gap)
+{
+    switch (mode) {
     case CLOCK_DATE_TIME:
-        text = now.toString("d/MM/yy") + " " + now.toString("HH:mm");
-        break;
+        return now.toString("d/MM/yy") + gap + now.toString("HH:mm");
     case CLOCK_DATE:
-        text = now.toString("d/MM/yy") + " ";
-        break;
+        return now.toString("d/MM/yy") + gap;
     case CLOCK_TIME:
-        text = now.toString("HH:mm");
-        break;
+        return now.toString("HH:mm");
     default:
-        break;
+        return QString();
     }
-    clockLabel->setText(text);
 }

@@ -5,7 +5,13 @@
 
 #include <QWidget>
 
+class QDateTime;
 class QLabel;
+
+// The clock's text in a display mode: date and time, date, time, or nothing
+// for another mode; gap stands between the date and the time and behind a
+// date alone (a blank in the status bar, a line break on the test screens).
+QString formatClock(int mode, const QDateTime& now, const QString& gap);
 class QTimer;
 
 // The strip at the top of nearly every screen: supply or battery picture,
