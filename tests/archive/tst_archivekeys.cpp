@@ -1,6 +1,7 @@
 // The module archive with the six hardware keys alone: the brand and model
 // combos are opened, walked and chosen with the keys, and the screens are
 // finished with them.
+#include "archive/deletepanel.h"
 #include "archive/editpanel.h"
 #include "archivefixture.h"
 #include "shell/orvia.h"
@@ -8,6 +9,7 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QtTest>
 
@@ -99,6 +101,43 @@ private slots:
         QString file = chosenModel == "S150" ? "s150" : "s100";
         QVERIFY(QString::fromLocal8Bit(modelFile(root, "solar", file))
                     .contains("name = " + chosenModel + "\n"));
+    }
+    void keysChooseInAListAsATouchDoes_deleteModelAsksFirst()
+    {
+        TestRoot root(0.01);
+        SimInstrument sim(root);
+        QVERIFY(addModel("Solar", "solar", "S100", "s100", sheet(100, 20, 5, 25, 5.5f)));
+        QVERIFY(addModel("Solar", "solar", "S150", "s150", sheet(150, 25, 6, 31, 6.5f)));
+        const QStringList before = tree(root);
+        BrandList brands;
+        DeletePanel d(nullptr, brands.head);
+        QListWidget* models = child<QListWidget>(&d, "models");
+        QPushButton* deleteModel = child<QPushButton>(&d, "Cancella Modello");
+        QVERIFY(!deleteModel->isEnabled());
+        // Down walks the screen's chain onto the list; Return enters it
+        QVERIFY(walkTo(sim, &d, "down", "models"));
+        QVERIFY(sim.tapKey("return"));
+        QCOMPARE(models->currentRow(), 0);
+        QVERIFY(sim.tapKey("down"));
+        QCOMPARE(models->currentRow(), 1);
+        QCOMPARE(d.focusWidget(), models);
+        // Return chooses the row as a finger does (the screen hears the press)
+        QVERIFY(sim.tapKey("return"));
+        QVERIFY(deleteModel->isEnabled());
+        // and Down walks the chain again
+        QVERIFY(sim.tapKey("down"));
+        QCOMPARE(d.focusWidget(), deleteModel);
+        ModalDriver driver;
+        QString asked;
+        driver.onWindow("QMessageBox", [&](QWidget* b) {
+            asked = qobject_cast<QMessageBox*>(b)->text();
+            QVERIFY(sim.tapKey("escape")); // No
+        });
+        QVERIFY(sim.tapKey("return"));
+        QCOMPARE(asked, QString("Cancella Modello"));
+        QCOMPARE(tree(root), before);
+        QVERIFY(sim.tapKey("escape"));
+        QVERIFY(!d.isVisible());
     }
 };
 
