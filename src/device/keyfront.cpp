@@ -9,8 +9,10 @@
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QPushButton>
 
 namespace
 {
@@ -89,22 +91,16 @@ void KeyFront::install()
     qApp->installEventFilter(installed);
 }
 
-QWidget* KeyFront::front()
-{
-    QWidget* popup = QApplication::activePopupWidget();
-    if (popup != nullptr)
-        return popup;
-    QWidget* modal = QApplication::activeModalWidget();
-    return modal != nullptr ? modal : QApplication::activeWindow();
-}
-
 bool KeyFront::serves(const QWidget* poller)
 {
-    QWidget* window = front();
     // a popup has no poller: the window it was opened from serves it
-    if (window != nullptr && window == QApplication::activePopupWidget() &&
-        window->parentWidget() != nullptr)
-        window = window->parentWidget()->window();
+    QWidget* window = QApplication::activePopupWidget();
+    if (window != nullptr)
+        window = window->parentWidget() != nullptr ? window->parentWidget()->window() : nullptr;
+    if (window == nullptr)
+        window = QApplication::activeModalWidget();
+    if (window == nullptr)
+        window = QApplication::activeWindow();
     // with nothing in front every poller serves its own window
     return window == nullptr || window == poller->window();
 }
@@ -123,6 +119,19 @@ bool KeyFront::take(QWidget* poller, int key, bool plainWalk)
         if (list == enteredList)
             return walkList(list, key);
         return key == Qt::Key_Return && enterList(list);
+    }
+    // a button with a menu opens it, to be walked as a popup
+    QPushButton* menuButton = qobject_cast<QPushButton*>(focus);
+    if (key == Qt::Key_Return && menuButton != nullptr && menuButton->menu() != nullptr &&
+        menuButton->isEnabled()) {
+        QMenu* menu = menuButton->menu();
+        for (QAction* action : menu->actions())
+            if (action->isVisible() && action->isEnabled() && !action->isSeparator()) {
+                menu->popup(menuButton->mapToGlobal(QPoint(0, menuButton->height())), action);
+                menu->setActiveAction(action);
+                return true;
+            }
+        return false;
     }
     if (QComboBox* combo = qobject_cast<QComboBox*>(focus)) {
         if (key != Qt::Key_Return || combo->count() == 0)

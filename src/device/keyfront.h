@@ -18,17 +18,17 @@ class QWidget;
 //
 // On every window, a focused list is entered with Return, walked with Up and
 // Down and left with Return, which touches the row it stands on (Escape
-// leaves it as it is); Return on a focused combo opens its list, where Up,
-// Down and Return choose as on the touch screen. The focus then stays on the
-// list or combo, in the screen's own chain.
+// leaves it as it is); Return on a focused combo opens its list, and on a
+// button with a menu the menu, where Up, Down and Return choose as on the
+// touch screen (Escape closes). The focus then stays on the list, combo or
+// button, in the screen's own chain.
 class KeyFront : public QObject
 {
 public:
     // Watches the windows being shown; done once, by the first key poller.
     static void install();
-    // The window whose pollers serve the keys now; null when none is in front.
-    static QWidget* front();
-    // True when the poller's window is the one in front (or none is).
+    // True when the poller's window is the one in front (or none is): the
+    // owner of an open popup, else the top modal window, else the active one.
     static bool serves(const QWidget* poller);
     // Serves a key where neither the screen nor the toolkit would: a popup,
     // a list or combo, a field of a dialog with the plain walk. True when done.

@@ -89,6 +89,20 @@ private slots:
             sim.tapKey("return");
             result = panel->_result;
 
+            // the measures menu: Return opens it on its first entry, Return
+            // takes the entry (the electrical data), Escape leaves the table
+            inner.onWindow("DialogDatiElettrici", [&](QWidget*) {
+                met << "electrical data";
+                sim.tapKey("escape");
+            });
+            QVERIFY(walkTo(sim, panel, "down", "Misure"));
+            sim.tapKey("return");
+            QMenu* menu = measuresMenu(panel);
+            QVERIFY(menu->isVisible());
+            QCOMPARE(menu->activeAction()->objectName(), QString("Modulo"));
+            sim.tapKey("return");
+            QVERIFY(!menu->isVisible());
+
             inner.onWindow("DialogInfo", [&](QWidget* f) {
                 met << "save form";
                 QVERIFY(walkTo(sim, f, "down", "Salva"));
@@ -106,7 +120,8 @@ private slots:
         QVERIFY(walkTo(sim, &menu, "tab", "Modulo"));
         sim.tapKey("return");
 
-        QCOMPARE(met, QStringList({"wiring", "module", "reference", "ageing", "save form"}));
+        QCOMPARE(met, QStringList({"wiring", "module", "reference", "ageing", "electrical data",
+                                   "save form"}));
         QCOMPARE(driver.pending(), 0);
         QCOMPARE(inner.pending(), 0);
         QCOMPARE(firstModel, 0);
