@@ -15,8 +15,8 @@
 #include <QVBoxLayout>
 #include <cstdlib>
 
-
-EditBrand::EditBrand(QWidget* parent, _listBrand* brandList) : QDialog(parent), _brandHead(brandList)
+EditBrand::EditBrand(QWidget* parent, _listBrand* brandList)
+    : QDialog(parent), _brandHead(brandList)
 {
     setObjectName("EditBrand");
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
@@ -44,7 +44,8 @@ EditBrand::EditBrand(QWidget* parent, _listBrand* brandList) : QDialog(parent), 
     box->addLayout(buttons);
 
     readBrandPanel();
-    connect(_listWidgetBrand, &QListWidget::itemSelectionChanged, this, &EditBrand::selectBrandInList);
+    connect(_listWidgetBrand, &QListWidget::itemSelectionChanged, this,
+            &EditBrand::selectBrandInList);
     connect(_buttonSave, &QPushButton::clicked, this, &EditBrand::saveBrand);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
     // modal from the first show: exec() on a shown window would not make it so
@@ -76,7 +77,16 @@ QString EditBrand::selectedText() const
 void EditBrand::selectBrandInList()
 {
     _editBrand->setText(selectedText());
-    _buttonSave->setEnabled(!selectedText().isEmpty());
+    updateSaveButton();
+}
+
+// Something to save: a row is selected, "<Nuova Marca>" included, and the
+// text is another than the row's (and not the placeholder's).
+void EditBrand::updateSaveButton()
+{
+    QString selected = selectedText();
+    QString text = _editBrand->text();
+    _buttonSave->setEnabled(!selected.isEmpty() && text != selected && text != tr("<Nuova Marca>"));
 }
 
 bool EditBrand::eventFilter(QObject* obj, QEvent* event)
@@ -92,13 +102,12 @@ void EditBrand::editLineObject(QObject* obj)
 {
     if (obj != _editBrand)
         return;
-    QMessageBox* box = newMessageBox(this, QMessageBox::Information, QString(),
-                                     tr("Testo inserito non valido."));
+    QMessageBox* box =
+        newMessageBox(this, QMessageBox::Information, QString(), tr("Testo inserito non valido."));
     QString initial = selectedText() == tr("<Nuova Marca>") ? QString() : _editBrand->text();
     enterFormText(this, box, _editBrand, initial, tr("Modifica Marca"), tr("Marca Modulo"),
                   QString(), QString());
-    QString text = _editBrand->text();
-    _buttonSave->setEnabled(text != tr("<Nuova Marca>") && text != selectedText());
+    updateSaveButton();
     delete box;
 }
 

@@ -33,6 +33,7 @@ protected:
 private:
     void readBrandPanel();
     QString selectedText() const;
+    void updateSaveButton();
 
     QMap<QString, QString> _brandDir;
 

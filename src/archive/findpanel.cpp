@@ -5,6 +5,7 @@
 #include "toolkit/embkeyboard.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
+#include "toolkit/tabcolumns.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -19,7 +20,8 @@
 #include <QVBoxLayout>
 #include <cmath>
 
-FindPanel::FindPanel(QWidget* parent, _listBrand* brandList) : QDialog(parent), _brandHead(brandList)
+FindPanel::FindPanel(QWidget* parent, _listBrand* brandList)
+    : QDialog(parent), _brandHead(brandList)
 {
     setObjectName("FindPanel");
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
@@ -57,6 +59,8 @@ FindPanel::FindPanel(QWidget* parent, _listBrand* brandList) : QDialog(parent), 
     QFont listFont = _listFind->font();
     listFont.setPointSize(22);
     _listFind->setFont(listFont);
+    // the cells of the header and of the rows stand in columns
+    new TabColumns(_listFind);
     _labelCount = new QLabel(tr("Modello trovato : "));
     _labelCount->setObjectName("count");
     _buttonFind = new QPushButton(QIcon(":/icon/find-panel.png"), tr("Cerca"));
@@ -131,10 +135,9 @@ void FindPanel::editLineObject(QObject* obj)
     if (row < 0)
         return;
 
-    const QString title[ROWS][FIELDS] = {
-        {tr("Pmax"), tr("Pmax Minima"), tr("Pmax Massima")},
-        {tr("Vmpp"), tr("Vmpp Minima"), tr("Vmpp Massima")},
-        {tr("Impp"), tr("Impp Minima"), tr("Impp Massima")}};
+    const QString title[ROWS][FIELDS] = {{tr("Pmax"), tr("Pmax Minima"), tr("Pmax Massima")},
+                                         {tr("Vmpp"), tr("Vmpp Minima"), tr("Vmpp Massima")},
+                                         {tr("Impp"), tr("Impp Minima"), tr("Impp Massima")}};
     const QString tag[ROWS] = {tr("Pmax : "), tr("Vmpp : "), tr("Impp : ")};
     const QString negative[ROWS][FIELDS] = {
         {tr("Pmax non può essere negativa : "), tr("Pmax Minima non può essere negativa : "),
@@ -210,7 +213,8 @@ void FindPanel::addPanelInFindList(_listBrand* brand, _listModel* model, _panelF
     _listFind->addItem(cells.join("\t"));
 }
 
-namespace {
+namespace
+{
 
 // One quantity's criterion as the fields hold it at the start of a search.
 struct Criterion {

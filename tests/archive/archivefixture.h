@@ -17,7 +17,8 @@
 #include <QtTest>
 #include <cstring>
 
-namespace archive {
+namespace archive
+{
 
 inline bool emptyDatabase(const TestRoot& root)
 {
@@ -134,22 +135,10 @@ inline QString focusStep(SimInstrument& sim, const char* key)
 // An action for the next modal window of the class named: the archive's
 // screens read the brands first, and the progress dialog of that read is a
 // modal window too; any other window is passed over and the action waits on.
-inline std::function<void(QWidget*)> screenAction(ModalDriver& driver, const char* className,
-                                                  std::function<void(QWidget*)> action)
-{
-    return [&driver, className, action](QWidget* w) {
-        if (!w->inherits(className)) {
-            driver.onNext(screenAction(driver, className, action));
-            return;
-        }
-        action(w);
-    };
-}
-
 inline void onScreen(ModalDriver& driver, const char* className,
                      std::function<void(QWidget*)> action)
 {
-    driver.onNext(screenAction(driver, className, action));
+    driver.onWindow(className, action);
 }
 
 // Closes the brand list of a screen's caller at the end of a test.

@@ -58,8 +58,8 @@ private slots:
         touch(save(d));
         QCOMPARE(driver.boxes.value(0).title, QString("Modifica Marca"));
         QCOMPARE(driver.boxes.value(0).text, QString("Inserita nuova marca"));
-        QCOMPARE(tree(root), QStringList({"solar/", "solar/iname", "solar_power/",
-                                          "solar_power/iname"}));
+        QCOMPARE(tree(root),
+                 QStringList({"solar/", "solar/iname", "solar_power/", "solar_power/iname"}));
         QCOMPARE(root.read("/krm510data/datapanel/solar_power/iname"),
                  QByteArray("Solar Power Italia\n"));
         // the list was read again and the form emptied
@@ -91,24 +91,31 @@ private slots:
         QCOMPARE(root.read("/krm510data/datapanel/solar/iname"), QByteArray("Solar Energy\n"));
         QCOMPARE(rows(d), QStringList({"<Nuova Marca>", "Solar Energy"}));
     }
-    void saveIsEnabledOnlyForANameOtherThanTheSelectedOne()
+    void saveWaitsForASelectedRowAndAnotherText()
     {
         TestRoot root(0.001);
         QVERIFY(addBrand("Solar", "solar"));
         BrandList brands;
         EditBrand d(nullptr, brands.head);
         ModalDriver driver;
+        // nothing selected: a name alone is not enough
+        enter(driver, &d, "name", "Solar2");
+        QVERIFY(!save(d)->isEnabled());
         pick(d, "Solar");
-        QVERIFY(save(d)->isEnabled()); // a selection enables it
+        QVERIFY(!save(d)->isEnabled()); // the row's own text: nothing to save
         enter(driver, &d, "name", "Solar");
         QVERIFY(!save(d)->isEnabled());
         enter(driver, &d, "name", "Solar2");
         QVERIFY(save(d)->isEnabled());
         pick(d, "<Nuova Marca>");
+        QVERIFY(!save(d)->isEnabled());
         // the new brand row opens the keyboard empty
         enter(driver, &d, "name", "Nuova");
-        QCOMPARE(driver.keyboardInitial, QStringList({"Solar", "Solar", ""}));
+        QCOMPARE(driver.keyboardInitial, QStringList({"", "Solar", "Solar", ""}));
         QVERIFY(save(d)->isEnabled());
+        // a selection given up takes Salva with it
+        child<QListWidget>(&d, "brands")->clearSelection();
+        QVERIFY(!save(d)->isEnabled());
     }
     void emptyOrTooLongNamesAreRefused()
     {
@@ -137,9 +144,9 @@ private slots:
         ModalDriver driver;
         pick(d, "<Nuova Marca>");
         QCOMPARE(child<QLineEdit>(&d, "name")->text(), QString("<Nuova Marca>"));
-        driver.answerBox();
+        QVERIFY(!save(d)->isEnabled());
         touch(save(d));
-        QCOMPARE(driver.boxes.value(0).title, QString("Marca Modulo"));
+        QVERIFY(driver.boxes.isEmpty());
         QVERIFY(tree(root).isEmpty());
     }
     void returnOnTheListPicksAndOnSaveSaves()

@@ -111,7 +111,8 @@ public:
         // once it accepts clients.
         xvfb.setProgram("/usr/bin/Xvfb");
         xvfb.setArguments({"-displayfd", QString::number(fds[1]), "-screen", "0", "1024x600x24",
-                           "-dpi", "72", "-nolisten", "tcp", "-nolisten", "unix", "-noreset"});
+                           "-dpi", "72", "-br", "-nolisten", "tcp", "-nolisten", "unix",
+                           "-noreset"});
         xvfb.setChildProcessModifier([fds]() { ::close(fds[0]); });
         xvfb.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         xvfb.start();
@@ -338,6 +339,13 @@ private slots:
             QVERIFY2(QFileInfo(root.path(dir)).isDir(), dir);
         QCOMPARE(countFileDir(DIR_DATA_MEA_PANEL, COUNT_FILES), 0);
         QCOMPARE(countFileDir(DIR_DATA_MEA_STRING, COUNT_FILES), 0);
+        // the start-up's program of the device image is there and does nothing, quietly
+        QProcess myspi;
+        myspi.start(root.path("/home/myspi"), QStringList());
+        QVERIFY(myspi.waitForFinished(10000));
+        QCOMPARE(myspi.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(myspi.exitCode(), 0);
+        QCOMPARE(myspi.readAll(), QByteArray());
 
         // a dozen modules of several technologies, read through the file layer
         int modules = 0;

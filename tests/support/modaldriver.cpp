@@ -39,6 +39,23 @@ void ModalDriver::onNext(std::function<void(QWidget*)> action)
     actions.append(action);
 }
 
+std::function<void(QWidget*)> ModalDriver::windowAction(const char* className,
+                                                        std::function<void(QWidget*)> action)
+{
+    return [this, className, action](QWidget* w) {
+        if (!w->inherits(className)) {
+            actions.prepend(windowAction(className, action)); // still the next one
+            return;
+        }
+        action(w);
+    };
+}
+
+void ModalDriver::onWindow(const char* className, std::function<void(QWidget*)> action)
+{
+    actions.append(windowAction(className, action));
+}
+
 void ModalDriver::answerBox(QMessageBox::StandardButton button)
 {
     onNext([this, button](QWidget* w) {
@@ -112,7 +129,8 @@ void ModalDriver::typeOnKeyboard(const QString& text, bool accept)
     onNext([this, text, accept](QWidget* w) {
         EmbKeyboard* keyboard = qobject_cast<EmbKeyboard*>(w);
         if (keyboard == nullptr) {
-            keyboardTitles.append(QString("<not a keyboard: %1>").arg(w->metaObject()->className()));
+            keyboardTitles.append(
+                QString("<not a keyboard: %1>").arg(w->metaObject()->className()));
             if (QDialog* d = qobject_cast<QDialog*>(w))
                 d->reject();
             return;
