@@ -52,7 +52,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
     void archiveMenu()
     {

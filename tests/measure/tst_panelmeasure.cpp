@@ -33,7 +33,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
 
     void goodMeasureDrawsTheCurveAndEnablesSave()

@@ -73,7 +73,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
 
     void matchingModulePassesAndTenPercentBelowFails()
