@@ -4,6 +4,7 @@
 #include "archive/newpanel.h"
 #include "data/datapanel.h"
 #include "toolkit/infobar.h"
+#include "toolkit/textfit.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -13,7 +14,8 @@
 #include <QVBoxLayout>
 #include <cstring>
 
-namespace {
+namespace
+{
 
 QVBoxLayout* labelledList(const QString& label, QListWidget* list)
 {
@@ -29,12 +31,30 @@ QString featureRow(const char* name, float value, int decimals, const char* unit
            unit;
 }
 
+// All the characteristics stand in their list at once: in the largest font,
+// not above the screen's, in which every row fits the list's height, but not
+// below the smallest an operator reads.
+void fitAllRows(QListWidget* list, const QFont& screenFont)
+{
+    QFont font = screenFont;
+    int px = fontPixels(font);
+    while (true) {
+        list->setFont(font);
+        int height = 0;
+        for (int row = 0; row < list->count(); ++row)
+            height += list->sizeHintForRow(row);
+        if (height <= list->viewport()->height() || px <= MinTextPixels)
+            break;
+        font.setPixelSize(--px);
+    }
+}
+
 } // namespace
 
 ReferencePanel::ReferencePanel(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowTitleHint),
-      _selectedModel(nullptr), _selectedBrand(nullptr), _modelChosen(false),
-      _brandCursor(nullptr), _brandHead(nullptr), _modelCursor(nullptr), _modelHead(nullptr)
+      _selectedModel(nullptr), _selectedBrand(nullptr), _modelChosen(false), _brandCursor(nullptr),
+      _brandHead(nullptr), _modelCursor(nullptr), _modelHead(nullptr)
 {
     setObjectName("ReferencePanel");
     std::memset(_brandDirName, 0, sizeof _brandDirName);
@@ -81,8 +101,7 @@ ReferencePanel::ReferencePanel(QWidget* parent)
     connect(_buttonEdit, &QPushButton::clicked, this, &ReferencePanel::goToEditPanel);
     connect(_buttonNew, &QPushButton::clicked, this, &ReferencePanel::goToNewPanel);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
-    connect(_listWidgetBrand, &QListWidget::itemSelectionChanged, this,
-            &ReferencePanel::showModel);
+    connect(_listWidgetBrand, &QListWidget::itemSelectionChanged, this, &ReferencePanel::showModel);
     connect(_listWidgetModel, &QListWidget::itemSelectionChanged, this,
             &ReferencePanel::showCharacteristics);
     // maximized when shown: exec() shows it, and only then does it become modal
@@ -118,8 +137,9 @@ void ReferencePanel::showModel()
     _listWidgetModel->clear();
     _listWidgetFeature->clear();
     QListWidgetItem* item = _listWidgetBrand->currentItem();
-    _listBrand* brand =
-        item == nullptr ? nullptr : findBrandPanel(_brandHead, item->text().toLocal8Bit().constData());
+    _listBrand* brand = item == nullptr
+                            ? nullptr
+                            : findBrandPanel(_brandHead, item->text().toLocal8Bit().constData());
     if (brand != nullptr) {
         _brandCursor = brand;
         std::memset(_brandDirName, 0, sizeof _brandDirName);
@@ -143,8 +163,9 @@ void ReferencePanel::showCharacteristics()
     _modelCursor = _modelHead;
     _listWidgetFeature->clear();
     QListWidgetItem* item = _listWidgetModel->currentItem();
-    _listModel* model =
-        item == nullptr ? nullptr : findModelPanel(_modelHead, item->text().toLocal8Bit().constData());
+    _listModel* model = item == nullptr
+                            ? nullptr
+                            : findModelPanel(_modelHead, item->text().toLocal8Bit().constData());
     if (model == nullptr)
         return;
     _modelCursor = model;
@@ -156,9 +177,16 @@ void ReferencePanel::showCharacteristics()
     _listWidgetFeature->addItem(featureRow("Impp", _feature.impp, 2, " A"));
     _listWidgetFeature->addItem(featureRow("Voc", _feature.voc, 2, " V"));
     _listWidgetFeature->addItem(featureRow("Isc", _feature.isc, 2, " A"));
+    fitAllRows(_listWidgetFeature, font());
     _modelChosen = true;
     _buttonEdit->setEnabled(true);
     _buttonConfirm->setEnabled(true);
+}
+
+void ReferencePanel::resizeEvent(QResizeEvent* event)
+{
+    QDialog::resizeEvent(event);
+    fitAllRows(_listWidgetFeature, font());
 }
 
 void ReferencePanel::goToConfirmPanel()

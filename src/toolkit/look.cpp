@@ -1,6 +1,7 @@
 #include "toolkit/look.h"
 
 #include "toolkit/focusmark.h"
+#include "toolkit/instrumentstyle.h"
 #include "toolkit/titlestrip.h"
 
 #include <QApplication>
@@ -8,7 +9,6 @@
 #include <QEvent>
 #include <QPointer>
 #include <QStyle>
-#include <QStyleFactory>
 
 namespace
 {
@@ -78,7 +78,7 @@ void setInstrumentLook()
     QApplication* app = qobject_cast<QApplication*>(QCoreApplication::instance());
     if (!app || app->findChild<QObject*>("instrumentLook", Qt::FindDirectChildrenOnly))
         return;
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new InstrumentStyle);
     QApplication::setPalette(QApplication::style()->standardPalette());
     QApplication::setFont(instrumentFont());
     // the touch screen shows no pointer

@@ -1,5 +1,5 @@
-#include "measure/panelfixture.h"
 #include "math/rndf.h"
+#include "measure/panelfixture.h"
 #include "platform/clock.h"
 #include "shell/language.h"
 #include "support/modaldriver.h"
@@ -92,6 +92,10 @@ private slots:
         QCOMPARE(driver.boxes[0].title, QString("Power Device"));
         QCOMPARE(driver.boxes[0].text, QString(coolingText()));
         QCOMPARE(driver.boxes[0].icon, QMessageBox::Warning);
+        // the box's title drawn on it, its texts legible
+        QCOMPARE(driver.boxes[0].drawnTitle, QString("Power Device"));
+        QVERIFY2(driver.boxes[0].legibility.isEmpty(),
+                 qPrintable(driver.boxes[0].legibility.join('\n')));
         QVERIFY(!sim.boardCommands().join(' ').contains("mea_brask"));
         QVERIFY(!panel._measureDone);
         QVERIFY(!panel._curveValid);
@@ -223,9 +227,9 @@ private slots:
         touch(&panel, "Start");
         QCOMPARE(driver.boxes.size(), 1);
         QCOMPARE(driver.boxes[0].title, QString());
-        QCOMPARE(driver.boxes[0].text,
-                 "Irraggiamento insufficiente (< " +
-                     QString::number(double(panel._config.irrmin), 'f', 2) + " W/m²)");
+        QCOMPARE(driver.boxes[0].text, "Irraggiamento insufficiente (< " +
+                                           QString::number(double(panel._config.irrmin), 'f', 2) +
+                                           " W/m²)");
         QCOMPARE(driver.boxes[0].icon, QMessageBox::Warning);
     }
     void refusedStartLeavesTheOldCurveAndVerdictStanding()

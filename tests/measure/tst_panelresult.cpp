@@ -3,6 +3,7 @@
 #include "math/dpmax.h"
 #include "math/temperatura.h"
 #include "measure/panelfixture.h"
+#include "support/lookcheck.h"
 #include "support/modaldriver.h"
 #include "support/screenshot.h"
 #include "toolkit/embkeyboard.h"
@@ -100,7 +101,8 @@ private slots:
         QCOMPARE(panel._deltaPmax, panelVerdict(panel._pmaxStc, &panel._reference, 0).deltaPmax);
         QCOMPARE(panel.plotter()->curves().value(1).size(), RAMP_POINTS);
         QCOMPARE(panel._rampStcSmooth.corrente[511], panel._iscStc);
-        QCOMPARE(entries(child<QMenu>(&panel, "Potenza")), (QStringList{"Potenza OPC", "-", "Potenza STC"}));
+        QCOMPARE(entries(child<QMenu>(&panel, "Potenza")),
+                 (QStringList{"Potenza OPC", "-", "Potenza STC"}));
         QVERIFY(child<QMenu>(&panel, "Potenza")->actions().last()->isVisible());
 
         QVERIFY(sim.command("set module pmax=225.09 impp=7.38 isc=7.83"));
@@ -166,9 +168,8 @@ private slots:
         touch(&panel, "Confronto");
         QCOMPARE(driver.pending(), 0);
         // again from the reading, not from the last result
-        QCOMPARE(panel._temperature, calcola_temperatura(PROBE_AMBIENT, 1, probe,
-                                                         panel._irradiance, panel._voc,
-                                                         &panel._reference));
+        QCOMPARE(panel._temperature, calcola_temperatura(PROBE_AMBIENT, 1, probe, panel._irradiance,
+                                                         panel._voc, &panel._reference));
         QVERIFY(panel._temperature > t45);
         QCOMPARE(panel.plotter()->title(), QString("Panel IV / SIM 250 HOT"));
     }
@@ -283,6 +284,10 @@ private slots:
         expectReference(driver, "SIM 250");
         touch(&panel, "Confronto");
         saveScreenshot(&panel, "panel_verdict");
+        {
+            const QStringList faults = legibilityFaults(&panel);
+            QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+        }
         touchMenu(&panel, "Potenza STC");
         QVERIFY(panel._powerStcShown);
         QCOMPARE(panel.plotter()->pmaxLabel, panel._pmaxStc);
@@ -298,7 +303,8 @@ private slots:
         QVERIFY(!panel._powerStcShown);
         QCOMPARE(panel.plotter()->pmaxLabel, panel._pmax);
         QVERIFY(panel.plotter()->curves().value(2) != stcPower);
-        QCOMPARE(panel.plotter()->curves().value(2).first().x(), double(panel._rampSmooth.tensione[0]));
+        QCOMPARE(panel.plotter()->curves().value(2).first().x(),
+                 double(panel._rampSmooth.tensione[0]));
         saveScreenshot(&panel, "panel_power_opc");
         touchMenu(&panel, "Potenza OPC");
         QVERIFY(!panel._powerOpcShown);

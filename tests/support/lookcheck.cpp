@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QFontMetrics>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -179,6 +180,9 @@ QStringList legibilityFaults(QWidget* screen)
         QLabel* label = qobject_cast<QLabel*>(w);
         QAbstractButton* button = qobject_cast<QAbstractButton*>(w);
         QAbstractItemView* view = qobject_cast<QAbstractItemView*>(w);
+        // a table's header shares the table's model but shows its headers
+        if (qobject_cast<QHeaderView*>(w))
+            view = nullptr;
         const bool showsText = (label && !label->text().isEmpty()) ||
                                (button && !button->text().isEmpty()) || view ||
                                w->inherits("QLineEdit") || w->inherits("QComboBox");

@@ -1,6 +1,8 @@
 #include "support/modaldriver.h"
 
+#include "support/lookcheck.h"
 #include "toolkit/embkeyboard.h"
+#include "toolkit/titlestrip.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -50,7 +52,11 @@ void ModalDriver::answerBox(QMessageBox::StandardButton button)
                 d->reject();
             return;
         }
-        boxes.append(Box{box->windowTitle(), box->text(), box->informativeText(), box->icon()});
+        Box seen{box->windowTitle(), box->text(), box->informativeText(), box->icon()};
+        if (const TitleStrip* strip = TitleStrip::of(box))
+            seen.drawnTitle = strip->text();
+        seen.legibility = legibilityFaults(box);
+        boxes.append(seen);
         QAbstractButton* b = box->button(button);
         if (b != nullptr)
             b->click();
@@ -112,7 +118,8 @@ void ModalDriver::typeOnKeyboard(const QString& text, bool accept)
     onNext([this, text, accept](QWidget* w) {
         EmbKeyboard* keyboard = qobject_cast<EmbKeyboard*>(w);
         if (keyboard == nullptr) {
-            keyboardTitles.append(QString("<not a keyboard: %1>").arg(w->metaObject()->className()));
+            keyboardTitles.append(
+                QString("<not a keyboard: %1>").arg(w->metaObject()->className()));
             if (QDialog* d = qobject_cast<QDialog*>(w))
                 d->reject();
             return;

@@ -12,6 +12,7 @@
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLabel>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStyle>
@@ -80,7 +81,12 @@ private slots:
         // the toolkit's own light palette: the black is the screen behind
         QVERIFY(QApplication::palette().color(QPalette::Window).lightness() > 160);
         QVERIFY(QApplication::palette().color(QPalette::ButtonText).lightness() < 80);
-        QCOMPARE(QApplication::style()->name().toLower(), QString("fusion"));
+        QProxyStyle* style = qobject_cast<QProxyStyle*>(QApplication::style());
+        QVERIFY(style != nullptr);
+        QCOMPARE(style->baseStyle()->name().toLower(), QString("fusion"));
+        // a button's icon where the screen gives no size
+        QPushButton button(QIcon(":/icon/exit.png"), "Exit");
+        QCOMPARE(button.iconSize(), QSize(32, 32));
         QVERIFY(QApplication::overrideCursor() != nullptr);
         QCOMPARE(QApplication::overrideCursor()->shape(), Qt::BlankCursor);
         // a second call stacks nothing

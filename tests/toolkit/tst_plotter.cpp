@@ -1,5 +1,6 @@
-#include "toolkit/plotter.h"
+#include "support/lookcheck.h"
 #include "support/screenshot.h"
+#include "toolkit/plotter.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -12,7 +13,8 @@
 #include <cmath>
 #include <limits>
 
-namespace {
+namespace
+{
 
 const QColor red(Qt::red);
 const QColor green(Qt::green);
@@ -107,8 +109,8 @@ void wheel(QWidget* w, QPoint angle)
 
 bool sameAxes(const PlotSettings& a, const PlotSettings& b)
 {
-    return a.minX == b.minX && a.maxX == b.maxX && a.numXTicks == b.numXTicks
-           && a.minY == b.minY && a.maxY == b.maxY && a.numYTicks == b.numYTicks;
+    return a.minX == b.minX && a.maxX == b.maxX && a.numXTicks == b.numXTicks && a.minY == b.minY &&
+           a.maxY == b.maxY && a.numYTicks == b.numYTicks;
 }
 
 // Remembers which texts the plot asks the catalogue for, under its context.
@@ -273,7 +275,9 @@ private slots:
         s.plot.setPlotSettings(PlotSettings());
         QVERIFY(!fs->isHidden());
     }
-    void resizePlacesTheButtonsAtTheTopRight()
+    // The old instrument put "FS" at a fixed height of 35, which the
+    // instrument's font makes overlap "Out": it stands 5 pixels under it.
+    void resizePlacesTheButtonsAtTheTopRight_operatorSeesWhereTheyAre()
     {
         Shown s(800, 400);
         QToolButton* in = button(s.plot, "In");
@@ -282,7 +286,7 @@ private slots:
         const int x = 800 - in->width() - out->width() - 10;
         QCOMPARE(in->pos(), QPoint(x, 5));
         QCOMPARE(out->pos(), QPoint(x + in->width() + 5, 5));
-        QCOMPARE(fs->pos(), QPoint(x + in->width() + 5, 35));
+        QCOMPARE(fs->pos(), QPoint(x + in->width() + 5, 5 + out->height() + 5));
         s.plot.resize(600, 300);
         const int x2 = 600 - in->width() - out->width() - 10;
         QCOMPARE(in->pos(), QPoint(x2, 5));
@@ -360,9 +364,11 @@ private slots:
     {
         const double nan = std::numeric_limits<double>::quiet_NaN();
         const double inf = std::numeric_limits<double>::infinity();
-        const double cases[][2] = {{5.0, 5.0},   {8.0, 2.0},   {nan, 3.0},  {0.0, nan},
-                                   {0.0, inf},   {-inf, 0.0},  {-1e308, 1e308},
-                                   {0.0, std::numeric_limits<double>::denorm_min()}};
+        const double cases[][2] = {
+            {5.0, 5.0},      {8.0, 2.0},
+            {nan, 3.0},      {0.0, nan},
+            {0.0, inf},      {-inf, 0.0},
+            {-1e308, 1e308}, {0.0, std::numeric_limits<double>::denorm_min()}};
         for (const auto& c : cases) {
             double min = c[0], max = c[1];
             int ticks = 7;
@@ -574,11 +580,11 @@ private slots:
         const QColor grid = shade(s.plot.palette().color(QPalette::Dark).lighter(150));
         const QColor tick = role(s.plot, QPalette::Light);
         const QColor background = role(s.plot, QPalette::Dark);
-        QCOMPARE(at(img, 25 + 949 / 5, 200), grid);      // 214, not 215
+        QCOMPARE(at(img, 25 + 949 / 5, 200), grid); // 214, not 215
         QCOMPARE(at(img, 25 + 949 / 5 + 1, 200), background);
-        QCOMPARE(at(img, 25 + 2 * 949 / 5, 200), grid);  // 404
+        QCOMPARE(at(img, 25 + 2 * 949 / 5, 200), grid); // 404
         QCOMPARE(at(img, 25 + 949 / 5, s.bottom() + 3), tick);
-        const int y = s.bottom() - 489 / 5;             // 417
+        const int y = s.bottom() - 489 / 5; // 417
         QCOMPARE(at(img, 500, y), grid);
         QCOMPARE(at(img, 500, y - 1), background);
         QCOMPARE(at(img, 22, y), tick);
@@ -649,8 +655,8 @@ private slots:
     void curvesAreDrawnInAscendingIdOrder()
     {
         Shown s;
-        s.plot.setCurveData(9, line({0, 5}, {50, 5}));  // magenta
-        s.plot.setCurveData(1, line({0, 5}, {50, 5}));  // green, under it
+        s.plot.setCurveData(9, line({0, 5}, {50, 5})); // magenta
+        s.plot.setCurveData(1, line({0, 5}, {50, 5})); // green, under it
         const int y = s.bottom() - (s.bottom() - 25) / 2;
         const QImage img = s.image();
         QVERIFY(near(img, 300, y, magenta));
@@ -739,8 +745,9 @@ private slots:
         Shown s;
         const double nan = std::numeric_limits<double>::quiet_NaN();
         const double inf = std::numeric_limits<double>::infinity();
-        s.plot.setCurveData(0, {{0, 5}, {10, 5}, {nan, 5}, {30, 5}, {40, 5},
-                                {inf, 5}, {45, nan}, {48, 5}, {50, 5}});
+        s.plot.setCurveData(
+            0,
+            {{0, 5}, {10, 5}, {nan, 5}, {30, 5}, {40, 5}, {inf, 5}, {45, nan}, {48, 5}, {50, 5}});
         const QImage img = s.image();
         const int y = s.bottom() - (s.bottom() - 25) / 2;
         auto px = [&](double v) { return 25 + static_cast<int>((s.right() - 25) * v / 50.0); };
@@ -888,7 +895,7 @@ private slots:
         Shown s;
         QTest::mousePress(&s.plot, Qt::LeftButton, Qt::NoModifier, {100, 100});
         QVERIFY(s.plot.isRubberBandShown());
-                QCOMPARE(s.plot.cursor().shape(), Qt::CrossCursor);
+        QCOMPARE(s.plot.cursor().shape(), Qt::CrossCursor);
         QTest::mouseMove(&s.plot, {102, 300});
         QTest::mouseRelease(&s.plot, Qt::LeftButton, Qt::NoModifier, {102, 300});
         QVERIFY(!s.plot.isRubberBandShown());
@@ -917,7 +924,8 @@ private slots:
     void aPressOutsideThePlotStartsNoBandAndItsReleaseDoesNothing()
     {
         Shown s;
-        const QPoint outside[] = {{24, 100}, {s.right() + 1, 100}, {100, 24}, {100, s.bottom() + 1}};
+        const QPoint outside[] = {
+            {24, 100}, {s.right() + 1, 100}, {100, 24}, {100, s.bottom() + 1}};
         for (QPoint p : outside) {
             QTest::mousePress(&s.plot, Qt::LeftButton, Qt::NoModifier, p);
             QVERIFY(!s.plot.isRubberBandShown());
@@ -963,10 +971,10 @@ private slots:
         QCOMPARE(s.plot.picture().cacheKey(), key);
         const QImage shown = s.plot.grab().toImage();
         const QColor light = role(s.plot, QPalette::Light);
-        QCOMPARE(at(shown, 300, 100), light);  // top edge
-        QCOMPARE(at(shown, 200, 200), light);  // left edge
-        QCOMPARE(at(shown, 300, 300), light);  // bottom edge
-        QCOMPARE(at(shown, 400, 200), light);  // right edge
+        QCOMPARE(at(shown, 300, 100), light); // top edge
+        QCOMPARE(at(shown, 200, 200), light); // left edge
+        QCOMPARE(at(shown, 300, 300), light); // bottom edge
+        QCOMPARE(at(shown, 400, 200), light); // right edge
         QVERIFY(at(s.image(), 300, 100) != light);
         QTest::mouseRelease(&s.plot, Qt::LeftButton, Qt::NoModifier, {400, 300});
     }
@@ -1139,6 +1147,23 @@ private slots:
         plot->setViewPassTest(true);
         path = saveScreenshot(&screen, "plotter-verdict-ok");
         QVERIFY(!path.isEmpty());
+        // every text of the plot legible, its painter's fonts included
+        QStringList faults = legibilityFaults(&screen);
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+        QVERIFY(!plot->drawnTextFonts().isEmpty());
+        // the contrast of the labels against the plot's background, measured
+        // on the picture: the tick labels left of the grid
+        {
+            const QImage picture = grabScreen(plot);
+            const QColor background(picture.pixel(Plotter::Margin + 40, Plotter::Margin + 40));
+            double strongest = 1.0;
+            for (int y = Plotter::Margin; y < plot->height() - 30; ++y)
+                for (int x = 0; x < Plotter::Margin - 6; ++x)
+                    strongest =
+                        std::max(strongest, contrastRatio(QColor(picture.pixel(x, y)), background));
+            qInfo("plot labels against the background: %.2f:1 (background %s)", strongest,
+                  qPrintable(background.name()));
+        }
         plot->testResult = 0;
         plot->refreshPixmap();
         QVERIFY(!saveScreenshot(&screen, "plotter-verdict-no").isEmpty());
@@ -1149,6 +1174,10 @@ private slots:
         QTest::mouseRelease(plot, Qt::LeftButton, Qt::NoModifier, {900, 300});
         QCOMPARE(plot->currentZoom(), 1);
         QVERIFY(!saveScreenshot(&screen, "plotter-zoomed").isEmpty());
+        // "FS" stands 5 pixels under "Out", whatever the font makes their height
+        QToolButton* out = button(*plot, "Out");
+        QVERIFY(out->isVisible());
+        QCOMPARE(button(*plot, "FS")->y(), out->y() + out->height() + 5);
 
         QTest::mouseClick(button(*plot, "FS"), Qt::LeftButton);
         QVERIFY(bar->isHidden());
