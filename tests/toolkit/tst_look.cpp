@@ -7,6 +7,7 @@
 #include "toolkit/embkeyboard.h"
 #include "toolkit/focusmark.h"
 #include "toolkit/messagebox.h"
+#include "toolkit/plotter.h"
 #include "toolkit/titlestrip.h"
 
 #include <QComboBox>
@@ -16,6 +17,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStyle>
+#include <QToolButton>
 #include <QtTest>
 #include <algorithm>
 
@@ -233,6 +235,30 @@ private slots:
         QVERIFY(key);
         const double onKey = disabledTextContrast(key);
         QVERIFY2(onKey >= 1.5, qPrintable(QString::number(onKey)));
+    }
+
+    void operatorSeesWhereTheyAre_checkedToggleLooksChecked()
+    {
+        QWidget screen;
+        screen.resize(800, 400);
+        Plotter* plot = new Plotter(&screen, "Panel IV", nullptr);
+        plot->setGeometry(screen.rect());
+        showActive(&screen);
+        plot->setCurveData(0, {QPointF(0, 8), QPointF(30, 7), QPointF(37, 0)});
+        QToolButton* fs = nullptr;
+        for (QToolButton* b : plot->findChildren<QToolButton*>())
+            if (b->text() == "FS")
+                fs = b;
+        QVERIFY(fs && fs->isVisible() && fs->isCheckable());
+        const QImage off = grabScreen(fs);
+        fs->setChecked(true);
+        const QImage on = grabScreen(fs);
+        int changed = 0;
+        for (int y = 0; y < on.height(); ++y)
+            for (int x = 0; x < on.width(); ++x)
+                changed += on.pixel(x, y) != off.pixel(x, y);
+        // the whole face changes, not a line of it
+        QVERIFY2(changed * 2 > on.width() * on.height(), qPrintable(QString::number(changed)));
     }
 };
 
