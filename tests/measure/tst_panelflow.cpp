@@ -103,8 +103,7 @@ private slots:
         _measure m;
         std::memset(&m, 0, sizeof m);
         QCOMPARE(readMeasureData(out.file.toLatin1().constData(), &m, MEA_PANEL), 511);
-        QVERIFY2(std::fabs(m.misc - isc) <= 0.02,
-                 qPrintable(QString("%1 %2").arg(m.misc).arg(isc)));
+        QVERIFY2(std::fabs(m.misc - isc) <= 0.02, qPrintable(QString("%1 %2").arg(m.misc).arg(isc)));
         QVERIFY2(std::fabs(m.mvoc - voc) <= 0.5, qPrintable(QString("%1 %2").arg(m.mvoc).arg(voc)));
         QVERIFY2(std::fabs(m.mpmax - pmax) <= 0.01 * pmax,
                  qPrintable(QString("%1 %2").arg(m.mpmax).arg(pmax)));

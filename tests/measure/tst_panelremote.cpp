@@ -34,10 +34,8 @@ private slots:
         panel.show();
         touch(&panel, "Start");
         QVERIFY(panel._measureDone);
-        QVERIFY2(std::fabs(panel._irradiance - 820) < 2.0f,
-                 qPrintable(QString::number(panel._irradiance)));
-        QVERIFY2(std::fabs(panel._temperature - 40) < 0.5f,
-                 qPrintable(QString::number(panel._temperature)));
+        QVERIFY2(std::fabs(panel._irradiance - 820) < 2.0f, qPrintable(QString::number(panel._irradiance)));
+        QVERIFY2(std::fabs(panel._temperature - 40) < 0.5f, qPrintable(QString::number(panel._temperature)));
         QVERIFY2(sim.call("remote log").contains("VERSION"), sim.call("remote log").constData());
     }
     void fourFailedConnectionsGiveTheRemoteUnitBoxThenTheTemperatureBox()

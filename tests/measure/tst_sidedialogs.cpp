@@ -274,8 +274,8 @@ private slots:
     void electricalDataShowTwoDecimalsAndFillFactor()
     {
         TestRoot root;
-        DialogDatiElettrici d(nullptr, true, MEA_PANEL, 200.0f, 30.0f, 6.6666f, 36.0f, 7.0f, 210.0f,
-                              31.0f, 6.77f, 37.0f, 7.2f, -1.5f);
+        DialogDatiElettrici d(nullptr, true, MEA_PANEL, 200.0f, 30.0f, 6.6666f, 36.0f, 7.0f,
+                              210.0f, 31.0f, 6.77f, 37.0f, 7.2f, -1.5f);
         QCOMPARE(child<QLabel>(&d, "Pmax_OPC")->text(), QString("200.00"));
         QCOMPARE(child<QLabel>(&d, "Impp_OPC")->text(), QString("6.67"));
         QCOMPARE(child<QLabel>(&d, "FF_OPC")->text(), QString("0.79 (79 %)"));

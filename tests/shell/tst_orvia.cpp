@@ -50,8 +50,8 @@ private slots:
         TestRoot root(0.01);
         Orvia menu;
         QStringList texts;
-        for (const char* name : {"Sistema", "Modulo", "Stringa", "ArchivioModuli", "ArchivioMisure",
-                                 "ArchivioAziende", "ArchivioInstallazioni", "USB"}) {
+        for (const char* name : {"Sistema", "Modulo", "Stringa", "ArchivioModuli",
+                                 "ArchivioMisure", "ArchivioAziende", "ArchivioInstallazioni", "USB"}) {
             QPushButton* b = button(menu, name);
             QVERIFY2(b != nullptr, name);
             QVERIFY(b->isFlat());
