@@ -14,8 +14,7 @@
 #include <QVBoxLayout>
 #include <cstring>
 
-namespace
-{
+namespace {
 
 QVBoxLayout* labelledList(const QString& label, QListWidget* list)
 {
@@ -53,8 +52,8 @@ void fitAllRows(QListWidget* list, const QFont& screenFont)
 
 ReferencePanel::ReferencePanel(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowTitleHint),
-      _selectedModel(nullptr), _selectedBrand(nullptr), _modelChosen(false), _brandCursor(nullptr),
-      _brandHead(nullptr), _modelCursor(nullptr), _modelHead(nullptr)
+      _selectedModel(nullptr), _selectedBrand(nullptr), _modelChosen(false),
+      _brandCursor(nullptr), _brandHead(nullptr), _modelCursor(nullptr), _modelHead(nullptr)
 {
     setObjectName("ReferencePanel");
     std::memset(_brandDirName, 0, sizeof _brandDirName);
@@ -101,7 +100,8 @@ ReferencePanel::ReferencePanel(QWidget* parent)
     connect(_buttonEdit, &QPushButton::clicked, this, &ReferencePanel::goToEditPanel);
     connect(_buttonNew, &QPushButton::clicked, this, &ReferencePanel::goToNewPanel);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
-    connect(_listWidgetBrand, &QListWidget::itemSelectionChanged, this, &ReferencePanel::showModel);
+    connect(_listWidgetBrand, &QListWidget::itemSelectionChanged, this,
+            &ReferencePanel::showModel);
     connect(_listWidgetModel, &QListWidget::itemSelectionChanged, this,
             &ReferencePanel::showCharacteristics);
     // maximized when shown: exec() shows it, and only then does it become modal
@@ -137,9 +137,8 @@ void ReferencePanel::showModel()
     _listWidgetModel->clear();
     _listWidgetFeature->clear();
     QListWidgetItem* item = _listWidgetBrand->currentItem();
-    _listBrand* brand = item == nullptr
-                            ? nullptr
-                            : findBrandPanel(_brandHead, item->text().toLocal8Bit().constData());
+    _listBrand* brand =
+        item == nullptr ? nullptr : findBrandPanel(_brandHead, item->text().toLocal8Bit().constData());
     if (brand != nullptr) {
         _brandCursor = brand;
         std::memset(_brandDirName, 0, sizeof _brandDirName);
@@ -163,9 +162,8 @@ void ReferencePanel::showCharacteristics()
     _modelCursor = _modelHead;
     _listWidgetFeature->clear();
     QListWidgetItem* item = _listWidgetModel->currentItem();
-    _listModel* model = item == nullptr
-                            ? nullptr
-                            : findModelPanel(_modelHead, item->text().toLocal8Bit().constData());
+    _listModel* model =
+        item == nullptr ? nullptr : findModelPanel(_modelHead, item->text().toLocal8Bit().constData());
     if (model == nullptr)
         return;
     _modelCursor = model;

@@ -75,8 +75,7 @@ void PlotSettings::adjustAxis(double& min, double& max, int& numTicks)
 
 // --------------------------------------------------------------------- Plotter
 
-namespace
-{
+namespace {
 
 // i intervals of n along a length of pixels, as an integer quotient. The
 // product is taken wide so that no tick count can overflow it.
@@ -375,8 +374,7 @@ void Plotter::drawCurves(QPainter* painter)
         run.reserve(data.size());
         for (const QPointF& p : data) {
             const double x = ((right - Margin) * (p.x() - settings.minX)) / settings.spanX() + 25.0;
-            const double y =
-                bottom - ((bottom - Margin) * (p.y() - settings.minY)) / settings.spanY();
+            const double y = bottom - ((bottom - Margin) * (p.y() - settings.minY)) / settings.spanY();
             if (std::isfinite(x) && std::isfinite(y)) {
                 run.append(QPointF(x, y));
             } else {

@@ -73,7 +73,7 @@ public:
     const QVector<PlotSettings>& zoomLevels() const { return zoomStack; }
     int currentZoom() const { return curZoom; }
     const PlotSettings& settings() const { return zoomStack[curZoom]; }
-    const QMap<int, QVector<QPointF>>& curves() const { return curveMap; }
+    const QMap<int, QVector<QPointF> >& curves() const { return curveMap; }
     bool isRubberBandShown() const { return rubberBandShown; }
     const QPixmap& picture() const { return pixmap; }
 
@@ -116,7 +116,7 @@ private:
     QString plotTitle;
     QToolButton* zoomInButton;
     QToolButton* zoomOutButton;
-    QMap<int, QVector<QPointF>> curveMap;
+    QMap<int, QVector<QPointF> > curveMap;
     QVector<PlotSettings> zoomStack;
     int curZoom;
     bool rubberBandShown;

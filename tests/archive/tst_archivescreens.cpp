@@ -29,8 +29,7 @@ class TestArchiveScreens : public QObject
                          sheet(250, 30.5f, 8.2f, 37.6f, 8.75f)));
         QVERIFY(addModel("Solar Power Italia", "solar", "SPI 250 Poly", "spi_250",
                          sheet(250, 30.1f, 8.31f, 37.2f, 8.9f)));
-        QVERIFY(addModel("Helios Energy", "helios", "HE-300", "he",
-                         sheet(300, 36.2f, 8.29f, 45.1f, 8.82f)));
+        QVERIFY(addModel("Helios Energy", "helios", "HE-300", "he", sheet(300, 36.2f, 8.29f, 45.1f, 8.82f)));
     }
     // The screen's layout needs no more than the instrument's screen.
     static void shoot(QDialog* d, const char* name)
@@ -40,10 +39,8 @@ class TestArchiveScreens : public QObject
         d->resize(1024, 600);
         QTRY_COMPARE(d->size(), QSize(1024, 600));
         QSize needed = d->minimumSizeHint();
-        QVERIFY2(
-            needed.width() <= 1024 && needed.height() <= 600,
-            qPrintable(
-                QString("%1 needs %2 x %3").arg(name).arg(needed.width()).arg(needed.height())));
+        QVERIFY2(needed.width() <= 1024 && needed.height() <= 600,
+                 qPrintable(QString("%1 needs %2 x %3").arg(name).arg(needed.width()).arg(needed.height())));
         QString path = saveScreenshot(d, name);
         QVERIFY(!path.isEmpty());
         QCOMPARE(QImage(path).size(), QSize(1024, 600));

@@ -227,9 +227,9 @@ private slots:
         touch(&panel, "Start");
         QCOMPARE(driver.boxes.size(), 1);
         QCOMPARE(driver.boxes[0].title, QString());
-        QCOMPARE(driver.boxes[0].text, "Irraggiamento insufficiente (< " +
-                                           QString::number(double(panel._config.irrmin), 'f', 2) +
-                                           " W/m²)");
+        QCOMPARE(driver.boxes[0].text,
+                 "Irraggiamento insufficiente (< " +
+                     QString::number(double(panel._config.irrmin), 'f', 2) + " W/m²)");
         QCOMPARE(driver.boxes[0].icon, QMessageBox::Warning);
     }
     void refusedStartLeavesTheOldCurveAndVerdictStanding()

@@ -101,8 +101,7 @@ private slots:
         QCOMPARE(panel._deltaPmax, panelVerdict(panel._pmaxStc, &panel._reference, 0).deltaPmax);
         QCOMPARE(panel.plotter()->curves().value(1).size(), RAMP_POINTS);
         QCOMPARE(panel._rampStcSmooth.corrente[511], panel._iscStc);
-        QCOMPARE(entries(child<QMenu>(&panel, "Potenza")),
-                 (QStringList{"Potenza OPC", "-", "Potenza STC"}));
+        QCOMPARE(entries(child<QMenu>(&panel, "Potenza")), (QStringList{"Potenza OPC", "-", "Potenza STC"}));
         QVERIFY(child<QMenu>(&panel, "Potenza")->actions().last()->isVisible());
 
         QVERIFY(sim.command("set module pmax=225.09 impp=7.38 isc=7.83"));
@@ -168,8 +167,9 @@ private slots:
         touch(&panel, "Confronto");
         QCOMPARE(driver.pending(), 0);
         // again from the reading, not from the last result
-        QCOMPARE(panel._temperature, calcola_temperatura(PROBE_AMBIENT, 1, probe, panel._irradiance,
-                                                         panel._voc, &panel._reference));
+        QCOMPARE(panel._temperature, calcola_temperatura(PROBE_AMBIENT, 1, probe,
+                                                         panel._irradiance, panel._voc,
+                                                         &panel._reference));
         QVERIFY(panel._temperature > t45);
         QCOMPARE(panel.plotter()->title(), QString("Panel IV / SIM 250 HOT"));
     }
@@ -303,8 +303,7 @@ private slots:
         QVERIFY(!panel._powerStcShown);
         QCOMPARE(panel.plotter()->pmaxLabel, panel._pmax);
         QVERIFY(panel.plotter()->curves().value(2) != stcPower);
-        QCOMPARE(panel.plotter()->curves().value(2).first().x(),
-                 double(panel._rampSmooth.tensione[0]));
+        QCOMPARE(panel.plotter()->curves().value(2).first().x(), double(panel._rampSmooth.tensione[0]));
         saveScreenshot(&panel, "panel_power_opc");
         touchMenu(&panel, "Potenza OPC");
         QVERIFY(!panel._powerOpcShown);

@@ -118,8 +118,7 @@ void ModalDriver::typeOnKeyboard(const QString& text, bool accept)
     onNext([this, text, accept](QWidget* w) {
         EmbKeyboard* keyboard = qobject_cast<EmbKeyboard*>(w);
         if (keyboard == nullptr) {
-            keyboardTitles.append(
-                QString("<not a keyboard: %1>").arg(w->metaObject()->className()));
+            keyboardTitles.append(QString("<not a keyboard: %1>").arg(w->metaObject()->className()));
             if (QDialog* d = qobject_cast<QDialog*>(w))
                 d->reject();
             return;

@@ -13,8 +13,7 @@
 #include <cmath>
 #include <limits>
 
-namespace
-{
+namespace {
 
 const QColor red(Qt::red);
 const QColor green(Qt::green);
@@ -109,8 +108,8 @@ void wheel(QWidget* w, QPoint angle)
 
 bool sameAxes(const PlotSettings& a, const PlotSettings& b)
 {
-    return a.minX == b.minX && a.maxX == b.maxX && a.numXTicks == b.numXTicks && a.minY == b.minY &&
-           a.maxY == b.maxY && a.numYTicks == b.numYTicks;
+    return a.minX == b.minX && a.maxX == b.maxX && a.numXTicks == b.numXTicks
+           && a.minY == b.minY && a.maxY == b.maxY && a.numYTicks == b.numYTicks;
 }
 
 // Remembers which texts the plot asks the catalogue for, under its context.
@@ -364,11 +363,9 @@ private slots:
     {
         const double nan = std::numeric_limits<double>::quiet_NaN();
         const double inf = std::numeric_limits<double>::infinity();
-        const double cases[][2] = {
-            {5.0, 5.0},      {8.0, 2.0},
-            {nan, 3.0},      {0.0, nan},
-            {0.0, inf},      {-inf, 0.0},
-            {-1e308, 1e308}, {0.0, std::numeric_limits<double>::denorm_min()}};
+        const double cases[][2] = {{5.0, 5.0},   {8.0, 2.0},   {nan, 3.0},  {0.0, nan},
+                                   {0.0, inf},   {-inf, 0.0},  {-1e308, 1e308},
+                                   {0.0, std::numeric_limits<double>::denorm_min()}};
         for (const auto& c : cases) {
             double min = c[0], max = c[1];
             int ticks = 7;
@@ -580,11 +577,11 @@ private slots:
         const QColor grid = shade(s.plot.palette().color(QPalette::Dark).lighter(150));
         const QColor tick = role(s.plot, QPalette::Light);
         const QColor background = role(s.plot, QPalette::Dark);
-        QCOMPARE(at(img, 25 + 949 / 5, 200), grid); // 214, not 215
+        QCOMPARE(at(img, 25 + 949 / 5, 200), grid);      // 214, not 215
         QCOMPARE(at(img, 25 + 949 / 5 + 1, 200), background);
-        QCOMPARE(at(img, 25 + 2 * 949 / 5, 200), grid); // 404
+        QCOMPARE(at(img, 25 + 2 * 949 / 5, 200), grid);  // 404
         QCOMPARE(at(img, 25 + 949 / 5, s.bottom() + 3), tick);
-        const int y = s.bottom() - 489 / 5; // 417
+        const int y = s.bottom() - 489 / 5;             // 417
         QCOMPARE(at(img, 500, y), grid);
         QCOMPARE(at(img, 500, y - 1), background);
         QCOMPARE(at(img, 22, y), tick);
@@ -655,8 +652,8 @@ private slots:
     void curvesAreDrawnInAscendingIdOrder()
     {
         Shown s;
-        s.plot.setCurveData(9, line({0, 5}, {50, 5})); // magenta
-        s.plot.setCurveData(1, line({0, 5}, {50, 5})); // green, under it
+        s.plot.setCurveData(9, line({0, 5}, {50, 5}));  // magenta
+        s.plot.setCurveData(1, line({0, 5}, {50, 5}));  // green, under it
         const int y = s.bottom() - (s.bottom() - 25) / 2;
         const QImage img = s.image();
         QVERIFY(near(img, 300, y, magenta));
@@ -745,9 +742,8 @@ private slots:
         Shown s;
         const double nan = std::numeric_limits<double>::quiet_NaN();
         const double inf = std::numeric_limits<double>::infinity();
-        s.plot.setCurveData(
-            0,
-            {{0, 5}, {10, 5}, {nan, 5}, {30, 5}, {40, 5}, {inf, 5}, {45, nan}, {48, 5}, {50, 5}});
+        s.plot.setCurveData(0, {{0, 5}, {10, 5}, {nan, 5}, {30, 5}, {40, 5},
+                                {inf, 5}, {45, nan}, {48, 5}, {50, 5}});
         const QImage img = s.image();
         const int y = s.bottom() - (s.bottom() - 25) / 2;
         auto px = [&](double v) { return 25 + static_cast<int>((s.right() - 25) * v / 50.0); };
@@ -895,7 +891,7 @@ private slots:
         Shown s;
         QTest::mousePress(&s.plot, Qt::LeftButton, Qt::NoModifier, {100, 100});
         QVERIFY(s.plot.isRubberBandShown());
-        QCOMPARE(s.plot.cursor().shape(), Qt::CrossCursor);
+                QCOMPARE(s.plot.cursor().shape(), Qt::CrossCursor);
         QTest::mouseMove(&s.plot, {102, 300});
         QTest::mouseRelease(&s.plot, Qt::LeftButton, Qt::NoModifier, {102, 300});
         QVERIFY(!s.plot.isRubberBandShown());
@@ -924,8 +920,7 @@ private slots:
     void aPressOutsideThePlotStartsNoBandAndItsReleaseDoesNothing()
     {
         Shown s;
-        const QPoint outside[] = {
-            {24, 100}, {s.right() + 1, 100}, {100, 24}, {100, s.bottom() + 1}};
+        const QPoint outside[] = {{24, 100}, {s.right() + 1, 100}, {100, 24}, {100, s.bottom() + 1}};
         for (QPoint p : outside) {
             QTest::mousePress(&s.plot, Qt::LeftButton, Qt::NoModifier, p);
             QVERIFY(!s.plot.isRubberBandShown());
@@ -971,10 +966,10 @@ private slots:
         QCOMPARE(s.plot.picture().cacheKey(), key);
         const QImage shown = s.plot.grab().toImage();
         const QColor light = role(s.plot, QPalette::Light);
-        QCOMPARE(at(shown, 300, 100), light); // top edge
-        QCOMPARE(at(shown, 200, 200), light); // left edge
-        QCOMPARE(at(shown, 300, 300), light); // bottom edge
-        QCOMPARE(at(shown, 400, 200), light); // right edge
+        QCOMPARE(at(shown, 300, 100), light);  // top edge
+        QCOMPARE(at(shown, 200, 200), light);  // left edge
+        QCOMPARE(at(shown, 300, 300), light);  // bottom edge
+        QCOMPARE(at(shown, 400, 200), light);  // right edge
         QVERIFY(at(s.image(), 300, 100) != light);
         QTest::mouseRelease(&s.plot, Qt::LeftButton, Qt::NoModifier, {400, 300});
     }
