@@ -1,10 +1,12 @@
 #include "support/lookcheck.h"
 
+#include "support/siminstrument.h"
 #include "toolkit/plotter.h"
 #include "toolkit/textfit.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QFontMetrics>
@@ -14,7 +16,9 @@
 #include <QRadioButton>
 #include <QStyle>
 #include <QStyleOptionButton>
+#include <QTest>
 #include <QTextDocument>
+#include <QTime>
 #include <QToolButton>
 #include <cmath>
 
@@ -215,6 +219,35 @@ QImage grabScreen(QWidget* screen)
     return window->grab(QRect(screen->mapTo(window, QPoint(0, 0)), screen->size()))
         .toImage()
         .convertToFormat(QImage::Format_RGB32);
+}
+
+QStringList focusMarkFaultsByKey(QWidget* screen, const SimInstrument& sim, QWidget* a,
+                                 const char* key)
+{
+    QStringList faults;
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        a->setFocus();
+        if (!QTest::qWaitFor([a] { return a->hasFocus(); }, 2000))
+            return {"the focus does not come to the first widget"};
+        const int minute = QTime::currentTime().minute();
+        const QImage before = grabScreen(screen);
+        // held until the key poll has moved the focus, let go before the
+        // next poll sees it again
+        if (!sim.pressKey(key))
+            return {"the key cannot be pressed"};
+        const bool moved = QTest::qWaitFor([a] { return !a->hasFocus(); }, 2000);
+        sim.releaseKey(key);
+        QWidget* b = QApplication::focusWidget();
+        if (!moved || b == nullptr)
+            return {QString("the key %1 moves no focus").arg(key)};
+        const QImage after = grabScreen(screen);
+        if (QTime::currentTime().minute() != minute && attempt == 0)
+            continue;
+        faults = focusMarkFaults(screen, before, after, a, b);
+        faults += focusMarkFaults(screen, after, before, b, a);
+        break;
+    }
+    return faults;
 }
 
 QStringList focusMarkFaults(QWidget* screen, const QImage& before, const QImage& after, QWidget* a,

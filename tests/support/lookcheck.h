@@ -6,6 +6,7 @@
 #include <QStringList>
 
 class QWidget;
+class SimInstrument;
 
 // Checks of what an operator in the sun sees on a screen.
 
@@ -26,6 +27,13 @@ QStringList legibilityFaults(QWidget* screen);
 // pixel outside A and B may change.
 QStringList focusMarkFaults(QWidget* screen, const QImage& before, const QImage& after, QWidget* a,
                             QWidget* b);
+
+// The focus on widget A, then moved by one press of a hardware key of the
+// simulated instrument: focusMarkFaults of the screen grabbed before and
+// after, both ways (A to the widget the key reached, and back). When the
+// status bar's clock turns between the two grabs, it tries once more.
+QStringList focusMarkFaultsByKey(QWidget* screen, const SimInstrument& sim, QWidget* a,
+                                 const char* key);
 
 // The screen (or any widget) as it is now on its window, its pending events
 // served first.
