@@ -4,6 +4,7 @@
 #include "archive/newpanel.h"
 #include "data/datapanel.h"
 #include "toolkit/infobar.h"
+#include "toolkit/textfit.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -27,6 +28,24 @@ QString featureRow(const char* name, float value, int decimals, const char* unit
 {
     return QString(name) + " \n" + QString::number(static_cast<double>(value), 'f', decimals) +
            unit;
+}
+
+// All the characteristics stand in their list at once: in the largest font,
+// not above the screen's, in which every row fits the list's height, but not
+// below the smallest an operator reads.
+void fitAllRows(QListWidget* list, const QFont& screenFont)
+{
+    QFont font = screenFont;
+    int px = fontPixels(font);
+    while (true) {
+        list->setFont(font);
+        int height = 0;
+        for (int row = 0; row < list->count(); ++row)
+            height += list->sizeHintForRow(row);
+        if (height <= list->viewport()->height() || px <= MinTextPixels)
+            break;
+        font.setPixelSize(--px);
+    }
 }
 
 } // namespace
@@ -156,9 +175,16 @@ void ReferencePanel::showCharacteristics()
     _listWidgetFeature->addItem(featureRow("Impp", _feature.impp, 2, " A"));
     _listWidgetFeature->addItem(featureRow("Voc", _feature.voc, 2, " V"));
     _listWidgetFeature->addItem(featureRow("Isc", _feature.isc, 2, " A"));
+    fitAllRows(_listWidgetFeature, font());
     _modelChosen = true;
     _buttonEdit->setEnabled(true);
     _buttonConfirm->setEnabled(true);
+}
+
+void ReferencePanel::resizeEvent(QResizeEvent* event)
+{
+    QDialog::resizeEvent(event);
+    fitAllRows(_listWidgetFeature, font());
 }
 
 void ReferencePanel::goToConfirmPanel()

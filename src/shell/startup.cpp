@@ -6,10 +6,9 @@
 #include "platform/clock.h"
 #include "shell/language.h"
 #include "shell/orvia.h"
+#include "toolkit/look.h"
 
 #include <QApplication>
-#include <QFont>
-#include <QPalette>
 #include <QPixmap>
 #include <QSplashScreen>
 #include <QTranslator>
@@ -18,19 +17,7 @@ int startInstrument(int& argc, char** argv)
 {
     QApplication app(argc, argv);
 
-    QFont font("helvetica", 38, QFont::Bold, false);
-    QApplication::setFont(font);
-
-    // the touch screen shows no pointer, and what no window covers is black
-    QApplication::setOverrideCursor(QCursor(Qt::BlankCursor));
-    QPalette palette = QApplication::palette();
-    palette.setColor(QPalette::Window, QColor(0, 0, 0, 255));
-    palette.setColor(QPalette::WindowText, Qt::white);
-    // flat buttons stand on the black and show their text in white; raised
-    // ones take a dark face to match
-    palette.setColor(QPalette::Button, QColor(48, 48, 48));
-    palette.setColor(QPalette::ButtonText, Qt::white);
-    QApplication::setPalette(palette);
+    setInstrumentLook();
 
     _configParam config;
     readConfigFile(&config);

@@ -38,7 +38,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
 
     void goodMeasureDrawsTheCurveAndEnablesSave()
@@ -97,6 +97,10 @@ private slots:
         QCOMPARE(driver.boxes[0].title, QString("Power Device"));
         QCOMPARE(driver.boxes[0].text, QString(coolingText()));
         QCOMPARE(driver.boxes[0].icon, QMessageBox::Warning);
+        // the box's title drawn on it, its texts legible
+        QCOMPARE(driver.boxes[0].drawnTitle, QString("Power Device"));
+        QVERIFY2(driver.boxes[0].legibility.isEmpty(),
+                 qPrintable(driver.boxes[0].legibility.join('\n')));
         QVERIFY(!sim.boardCommands().join(' ').contains("mea_brask"));
         QVERIFY(!panel._measureDone);
         QVERIFY(!panel._curveValid);

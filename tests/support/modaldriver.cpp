@@ -1,6 +1,8 @@
 #include "support/modaldriver.h"
 
+#include "support/lookcheck.h"
 #include "toolkit/embkeyboard.h"
+#include "toolkit/titlestrip.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -67,7 +69,11 @@ void ModalDriver::answerBox(QMessageBox::StandardButton button)
                 d->reject();
             return;
         }
-        boxes.append(Box{box->windowTitle(), box->text(), box->informativeText(), box->icon()});
+        Box seen{box->windowTitle(), box->text(), box->informativeText(), box->icon()};
+        if (const TitleStrip* strip = TitleStrip::of(box))
+            seen.drawnTitle = strip->text();
+        seen.legibility = legibilityFaults(box);
+        boxes.append(seen);
         QAbstractButton* b = box->button(button);
         if (b != nullptr)
             b->click();

@@ -25,6 +25,10 @@ public:
         QString text;
         QString informative;
         QMessageBox::Icon icon;
+        // the title as the program draws it on the box, and what is hard to
+        // read on it (see lookcheck.h)
+        QString drawnTitle = QString();
+        QStringList legibility = QStringList();
     };
 
     ModalDriver();
