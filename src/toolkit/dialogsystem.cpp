@@ -6,6 +6,7 @@
 #include "platform/command.h"
 #include "toolkit/dialogbright.h"
 #include "toolkit/embkeyboard.h"
+#include "toolkit/numbertext.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
 
@@ -73,10 +74,10 @@ DialogSystem::DialogSystem(_configParam* config, QWidget* parent) : QDialog(pare
     showUserTemperature();
     addRow(tr("Temperatura"), probeCombo, temperatureButton);
 
-    pyranoEdit = new QLineEdit(QString::number(static_cast<double>(_config.cpyar), 'f', 2), page);
+    pyranoEdit = new QLineEdit(storedNumberText(_config.cpyar, 2), page);
     pyranoEdit->setObjectName("pyrano");
     addRow(tr("Sens. Pyra"), pyranoEdit, new QLabel(QString::fromUtf8("mV/(kW/m²)"), page));
-    irrMinEdit = new QLineEdit(QString::number(static_cast<double>(_config.irrmin), 'f', 2), page);
+    irrMinEdit = new QLineEdit(storedNumberText(_config.irrmin, 2), page);
     irrMinEdit->setObjectName("irrmin");
     addRow(tr("Irraggiamento Minimo"), irrMinEdit, new QLabel(QString::fromUtf8("W/m² "), page));
 
@@ -168,7 +169,7 @@ void DialogSystem::showUserTemperature()
     bool manual = _config.tprobe == PROBE_MANUAL;
     temperatureButton->setEnabled(manual);
     temperatureButton->setText(
-        manual ? QString::number(static_cast<double>(_config.utemp), 'f', 2) + QString::fromUtf8(" °C")
+        manual ? storedNumberText(_config.utemp, 2) + QString::fromUtf8(" °C")
                : QString::fromUtf8("--.-- °C"));
 }
 
@@ -272,9 +273,9 @@ void DialogSystem::insertUserTemperature()
                             QString::number(static_cast<double>(_config.utemp), 'f', 2), true);
     if (text.isNull())
         return;
-    bool ok = false;
-    float value = text.toFloat(&ok);
-    if (!ok || value < -20.0f || value > 100.0f) {
+    // a typed "nan" or "inf" used to pass the bounds: a number is a number
+    float value = 0;
+    if (!finiteNumber(text, &value) || value < -20.0f || value > 100.0f) {
         showMessageBox(this, QMessageBox::Information, tr("Temperatura manuale"),
                        tr("Numero non valido."));
         return;
@@ -351,16 +352,16 @@ void DialogSystem::editLineObject(QObject* obj)
         field = &_config.irrmin;
     }
     if (edit != nullptr) {
-        if (*field != 0)
+        if (*field != 0 && std::isfinite(*field))
             keyboard->setInitString(QString::number(static_cast<double>(*field), 'f', 2));
         keyboard->toKeyPad();
         if (keyboard->exec() == QDialog::Accepted) {
             QString text = keyboard->stringEntered();
-            bool ok = false;
-            float value = text.toFloat(&ok);
-            if (!ok || value < low || value > high) {
-                box->setInformativeText(box->windowTitle() + " : " + QString::number(low) +
-                                        " - " + QString::number(high));
+            // a typed "nan" or "inf" used to pass the bounds, and the range
+            // was written "0 - 1e+06": a number is a number, in plain digits
+            float value = 0;
+            if (!finiteNumber(text, &value) || value < low || value > high) {
+                box->setInformativeText(box->windowTitle() + " : " + rangeText(low, high));
                 box->exec();
             } else {
                 *field = value;

@@ -1,7 +1,9 @@
 #include "data/coredata.h"
+#include "support/datafiles.h"
 #include "support/testroot.h"
 
 #include <QtTest>
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
 
@@ -195,6 +197,39 @@ private slots:
     {
         QCOMPARE(written([](FILE* f) { return fwriteTagFloat(f, "sisc", NAN); }),
                  QByteArray("sisc = nan\n"));
+    }
+    // The old instrument wrote and read the numbers of its files in the
+    // process locale; files speak C whatever the locale.
+    void filesSpeakC_floatIsWrittenWithAPointUnderACommaLocale()
+    {
+        CommaLocale comma;
+        if (!comma.active())
+            QSKIP("no locale with a decimal comma on this machine");
+        char text[16];
+        snprintf(text, sizeof text, "%.2f", 1.5);
+        QCOMPARE(QByteArray(text), QByteArray("1,50")); // the locale is in force
+        QCOMPARE(written([](FILE* f) { return fwriteTagFloatPrecision(f, "v", 1.25f, 2); }),
+                 QByteArray("v = 1.25\n"));
+        QCOMPARE(written([](FILE* f) { return fwriteTagFloat(f, "v", -1.25f); }),
+                 QByteArray("v = -1.250000\n"));
+        QCOMPARE(written([](FILE* f) { return cFprintf(f, "%.4f", 2.5); }), QByteArray("2.5000"));
+        cSnprintf(text, sizeof text, "%.1f", 0.5);
+        QCOMPARE(QByteArray(text), QByteArray("0.5"));
+        // the locale of the process is left as it was
+        snprintf(text, sizeof text, "%.1f", 0.5);
+        QCOMPARE(QByteArray(text), QByteArray("0,5"));
+    }
+    void filesSpeakC_numbersAreReadWithAPointUnderACommaLocale()
+    {
+        CommaLocale comma;
+        if (!comma.active())
+            QSKIP("no locale with a decimal comma on this machine");
+        QCOMPARE(atof("1.25"), 1.0); // what the old reading gave
+        QCOMPARE(cAtof("1.25"), 1.25);
+        QCOMPARE(cAtof("1,25"), 1.0);
+        QCOMPARE(cAtof("-3.5e2"), -350.0);
+        QVERIFY(std::isnan(cAtof("nan")));
+        QCOMPARE(cAtof(nullptr), 0.0);
     }
     void writersReturnTheCharacterCount()
     {

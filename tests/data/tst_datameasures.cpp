@@ -155,6 +155,25 @@ private slots:
         freeMeasureData(&m);
     }
 
+    // The old instrument wrote and read its numbers in the process locale: a
+    // comma locale gave "1,2500" in the table. Files speak C whatever the locale.
+    void filesSpeakC_measureUnderACommaLocaleMatchesGolden512AndReadsBack()
+    {
+        CommaLocale comma;
+        if (!comma.active())
+            QSKIP("no locale with a decimal comma on this machine");
+        TestRoot root;
+        directories();
+        _measure m = golden512();
+        QVERIFY(saveMeasuresData(&m, MEA_PANEL, 42) > 0);
+        QCOMPARE(root.read(DIR_DATA_MEA_PANEL "/20100615-103000"), golden("measure_512_points"));
+        _measure r;
+        QCOMPARE(readMeasureData("20100615-103000", &r, MEA_PANEL), RAMP_POINTS);
+        compareMeasures(r, m);
+        freeMeasureData(&m);
+        freeMeasureData(&r);
+    }
+
     void golden256IsPaddedWithPoint254()
     {
         TestRoot root;

@@ -1,4 +1,5 @@
 #include "data/datasetting.h"
+#include "support/datafiles.h"
 #include "support/testroot.h"
 
 #include <QtTest>
@@ -311,6 +312,27 @@ private slots:
         strcpy(c.bluemac, "AA:BB:CC:DD:EE:FF");
         strcpy(c.bluename, "Unit B");
         saveConfigFile(c);
+        _configParam back;
+        QCOMPARE(readConfigFile(&back), 0);
+        QCOMPARE(memcmp(&c, &back, sizeof c), 0);
+    }
+    // The old instrument read and wrote the settings' numbers in the process
+    // locale; files speak C whatever the locale.
+    void filesSpeakC_settingsUnderACommaLocaleAreWrittenWithAPointAndReadBack()
+    {
+        CommaLocale comma;
+        if (!comma.active())
+            QSKIP("no locale with a decimal comma on this machine");
+        TestRoot root;
+        _configParam c;
+        defaultConfig(&c);
+        c.utemp = 21.75f;
+        c.irrmin = 350.5f;
+        saveConfigFile(c);
+        QByteArray file = root.read("/etc/krm510.conf");
+        QVERIFY(file.contains("\nutemp = 21.750000\n"));
+        QVERIFY(file.contains("\nirrmin = 350.500000\n"));
+        QVERIFY(!file.contains(','));
         _configParam back;
         QCOMPARE(readConfigFile(&back), 0);
         QCOMPARE(memcmp(&c, &back, sizeof c), 0);
