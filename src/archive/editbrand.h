@@ -33,7 +33,6 @@ private:
     void readBrandPanel();
     QString selectedText() const;
 
-
     InfoBar* _infoBar;
     QListWidget* _listWidgetBrand;
     QLineEdit* _editBrand;

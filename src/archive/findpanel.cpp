@@ -205,9 +205,10 @@ void FindPanel::headerFindList()
 void FindPanel::addPanelInFindList(_listBrand* brand, _listModel* model, _panelFeature* feature)
 {
     QStringList cells;
-    cells << storedText(brand->name).left(8) << storedText(model->name).left(10) << floatToString(feature->pmax)
-          << floatToString(feature->vmpp) << floatToString(feature->impp)
-          << floatToString(feature->voc) << floatToString(feature->isc);
+    cells << storedText(brand->name).left(8) << storedText(model->name).left(10)
+          << floatToString(feature->pmax) << floatToString(feature->vmpp)
+          << floatToString(feature->impp) << floatToString(feature->voc)
+          << floatToString(feature->isc);
     _listFind->addItem(cells.join("\t"));
 }
 

@@ -94,7 +94,7 @@ int saveMeasuresData(const _measure* m, _meaType type, unsigned sn)
     sum += fwriteTagFloatPrecision(f, "RTOLLM", m->ref.tollm, 2);
     for (int k = 0; k < RAMP_POINTS; k++)
         sum += cFprintf(f, "%.4f\t%.4f\n", static_cast<double>(m->ramp.corrente[k]),
-                       static_cast<double>(m->ramp.tensione[k]));
+                        static_cast<double>(m->ramp.tensione[k]));
     fflush(f);
     fclose(f);
     return sum;

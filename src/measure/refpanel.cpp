@@ -136,7 +136,8 @@ void ReferencePanel::showModel()
     _listWidgetModel->clear();
     _listWidgetFeature->clear();
     QListWidgetItem* item = _listWidgetBrand->currentItem();
-    _listBrand* brand = item == nullptr ? nullptr : findBrandDir(_brandHead, itemKey(item).constData());
+    _listBrand* brand =
+        item == nullptr ? nullptr : findBrandDir(_brandHead, itemKey(item).constData());
     if (brand != nullptr) {
         _brandCursor = brand;
         std::memset(_brandDirName, 0, sizeof _brandDirName);
@@ -160,7 +161,8 @@ void ReferencePanel::showCharacteristics()
     _modelCursor = _modelHead;
     _listWidgetFeature->clear();
     QListWidgetItem* item = _listWidgetModel->currentItem();
-    _listModel* model = item == nullptr ? nullptr : findModelFile(_modelHead, itemKey(item).constData());
+    _listModel* model =
+        item == nullptr ? nullptr : findModelFile(_modelHead, itemKey(item).constData());
     if (model == nullptr)
         return;
     _modelCursor = model;

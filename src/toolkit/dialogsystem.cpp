@@ -6,9 +6,9 @@
 #include "platform/command.h"
 #include "toolkit/dialogbright.h"
 #include "toolkit/embkeyboard.h"
-#include "toolkit/numbertext.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
+#include "toolkit/numbertext.h"
 
 #include <QEvent>
 #include <QComboBox>
@@ -168,9 +168,9 @@ void DialogSystem::showUserTemperature()
 {
     bool manual = _config.tprobe == PROBE_MANUAL;
     temperatureButton->setEnabled(manual);
-    temperatureButton->setText(
-        manual ? storedNumberText(_config.utemp, 2) + QString::fromUtf8(" °C")
-               : QString::fromUtf8("--.-- °C"));
+    temperatureButton->setText(manual
+                                   ? storedNumberText(_config.utemp, 2) + QString::fromUtf8(" °C")
+                                   : QString::fromUtf8("--.-- °C"));
 }
 
 void DialogSystem::setLanguage(int index)

@@ -55,6 +55,55 @@ private slots:
         pressModel(d, "Hit 240");
         QVERIFY(button(d, "Cancella Modello")->isEnabled());
     }
+    // The old screen looked the chosen model up by its name again: of two
+    // models of one name it deleted the first, and a name that is not valid
+    // UTF-8 was never found. The model deleted is the one chosen.
+    void referenceIsTheOneChosen_ofTwoModelsOfOneNameTheChosenOneIsDeleted()
+    {
+        for (int row = 0; row < 2; row++) {
+            TestRoot root(0.001);
+            QVERIFY(addModel("Solar", "solar", "Twin", "twin_a", sheet(200, 30, 8, 37, 8.5f)));
+            QVERIFY(addModel("Solar", "solar", "Twin", "twin_b", sheet(300, 30, 8, 37, 8.5f)));
+            BrandList brands;
+            DeletePanel d(nullptr, brands.head);
+            QListWidget* list = child<QListWidget>(&d, "models");
+            QCOMPARE(list->count(), 2);
+            QListWidgetItem* item = list->item(row);
+            const QString file = item->data(Qt::UserRole).toString();
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                              list->visualItemRect(item).center());
+            ModalDriver driver;
+            driver.answerBox(QMessageBox::Yes);
+            touch(button(d, "Cancella Modello"));
+            const QString other = file == "twin_a" ? "twin_b" : "twin_a";
+            QCOMPARE(tree(root), QStringList({"solar/", "solar/iname", "solar/" + other}));
+        }
+    }
+    void referenceIsTheOneChosen_latin1NamesAndFilesWithoutANameAreDeleted()
+    {
+        TestRoot root(0.001);
+        QVERIFY(addModel("x", "muller", "Hit", "hit", sheet(240, 30, 8, 37, 8.5f)));
+        QVERIFY(root.write("/krm510data/datapanel/muller/iname", "M\xfcller\n"));
+        QVERIFY(root.write("/krm510data/datapanel/muller/kraft", "name = Kr\xe4ft\npmax = 1\n"));
+        QVERIFY(root.write("/krm510data/datapanel/muller/noname", "pmax = 250.00\n"));
+        BrandList brands;
+        DeletePanel d(nullptr, brands.head);
+        QCOMPARE(child<QComboBox>(&d, "brand")->currentText(), QString::fromUtf8("Müller"));
+        pressModel(d, QString::fromUtf8("Kräft"));
+        ModalDriver driver;
+        driver.answerBox(QMessageBox::Yes);
+        touch(button(d, "Cancella Modello"));
+        QCOMPARE(tree(root),
+                 QStringList({"muller/", "muller/hit", "muller/iname", "muller/noname"}));
+        QListWidget* list = child<QListWidget>(&d, "models");
+        QList<QListWidgetItem*> unnamed = list->findItems(QString(), Qt::MatchExactly);
+        QCOMPARE(unnamed.size(), 1);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          list->visualItemRect(unnamed[0]).center());
+        driver.answerBox(QMessageBox::Yes);
+        touch(button(d, "Cancella Modello"));
+        QCOMPARE(tree(root), QStringList({"muller/", "muller/hit", "muller/iname"}));
+    }
     void answeringNoKeepsTheModel()
     {
         TestRoot root(0.001);

@@ -129,25 +129,65 @@ private slots:
     {
         QCOMPARE(split("a = 1\r2\n").value, QByteArray("1"));
     }
-    void lineOf1000CharactersIsReadInPieces()
+    static QList<Split> linesOf(const TestRoot& root, const QByteArray& content)
+    {
+        root.write("/etc/long", content);
+        FILE* f = fopen(root.path("/etc/long").toLocal8Bit().constData(), "r");
+        QList<Split> lines;
+        char line[TAG_LINE_SIZE];
+        while (f != nullptr && readTagLine(f, line))
+            lines.append(split(line));
+        if (f != nullptr)
+            fclose(f);
+        return lines;
+    }
+    // The old reader took a line in pieces of 255 bytes, each read as a line
+    // of its own; stored data is never lost: a line is whole up to the bound.
+    void storedDataNeverLost_lineOf1000CharactersIsReadWhole()
     {
         TestRoot root;
-        QByteArray big = "mcom = " + QByteArray(993, 'x') + "\npmax = 7\n";
-        QVERIFY(root.write("/etc/long", big));
-        FILE* f = fopen(root.path("/etc/long").toLocal8Bit().constData(), "r");
-        QVERIFY(f != nullptr);
+        QList<Split> lines = linesOf(root, "mcom = " + QByteArray(993, 'x') + "\npmax = 7\n");
+        QCOMPARE(lines.size(), 2);
+        QCOMPARE(lines[0].kind, TAG_PAIR);
+        QCOMPARE(lines[0].value, QByteArray(993, 'x'));
+        QCOMPARE(lines[1].value, QByteArray("7"));
+    }
+    void storedDataNeverLost_lineBeyondTheBoundIsSkippedNeverTakenForTheNextLine()
+    {
+        TestRoot root;
+        QList<Split> lines = linesOf(root, "mcom = " + QByteArray(5000, 'x') + "\nmcom = y\n" +
+                                               QByteArray(TAG_LINE_SIZE - 1, 'z') + "\npmax = 7");
+        // 1023 bytes of the first line are kept, the rest of it skipped; a
+        // line of exactly 1023 bytes and a last line without a newline are whole
+        QCOMPARE(lines.size(), 4);
+        QCOMPARE(lines[0].value, QByteArray(TAG_LINE_SIZE - 1 - 7, 'x'));
+        QCOMPARE(lines[1].value, QByteArray("y"));
+        QCOMPARE(lines[2].kind, TAG_NO_EQUALS);
+        QCOMPARE(lines[3].value, QByteArray("7"));
+    }
+    void storedDataNeverLost_lineOfExactlyTheBoundKeepsTheNextLine()
+    {
+        TestRoot root;
+        // 1023 bytes and the newline: the newline is beyond the bound
+        QList<Split> lines =
+            linesOf(root, "a = " + QByteArray(TAG_LINE_SIZE - 1 - 4, 'v') + "\nb = 2\n");
+        QCOMPARE(lines.size(), 2);
+        QCOMPARE(lines[0].value.size(), TAG_LINE_SIZE - 1 - 4);
+        QCOMPARE(lines[1].key, QByteArray("B"));
+    }
+    void storedDataNeverLost_noteBlockWithLongLinesIsSkippedWhole()
+    {
+        TestRoot root;
+        QVERIFY(root.write("/etc/note", "note <\n" + QByteArray(3000, '<') + "x\n" +
+                                            QByteArray(3000, 'n') + "\n<\nb = 2\n"));
+        FILE* f = fopen(root.path("/etc/note").toLocal8Bit().constData(), "r");
         char line[TAG_LINE_SIZE];
-        QList<Split> pieces;
-        while (readTagLine(f, line))
-            pieces.append(split(line));
+        QVERIFY(readTagLine(f, line));
+        QCOMPARE(split(line).kind, TAG_NOTE);
+        skipNote(f); // the long line of "<" closes it
+        QVERIFY(readTagLine(f, line));
+        QCOMPARE(split(line).kind, TAG_NO_EQUALS); // the line of n's
         fclose(f);
-        // 1000 characters and the newline: pieces of 255, 255, 255, 236
-        QCOMPARE(pieces.size(), 5);
-        QCOMPARE(pieces[0].kind, TAG_PAIR);
-        QCOMPARE(pieces[0].value, QByteArray(255 - 7, 'x'));
-        QCOMPARE(pieces[1].kind, TAG_NO_EQUALS); // a piece of x's is a key without "="
-        QCOMPARE(pieces[4].kind, TAG_PAIR);
-        QCOMPARE(pieces[4].value, QByteArray("7"));
     }
     void nulByteEndsTheLineText()
     {

@@ -198,10 +198,18 @@ private slots:
         QByteArray name(59, 'n');
         QCOMPARE(QByteArray(readWith(root, "bluename = " + name + "\n").bluename), name);
     }
-    void bluenameOf60CharactersReadsAsDefault()
+    // The old reader replaced a name of 60 characters, which the settings
+    // screen accepts, by the default; stored data is never lost.
+    void storedDataNeverLost_bluenameOf60CharactersIsKept()
     {
         TestRoot root;
         QByteArray name(60, 'n');
+        QCOMPARE(QByteArray(readWith(root, "bluename = " + name + "\n").bluename), name);
+    }
+    void bluenameOf61CharactersReadsAsDefault()
+    {
+        TestRoot root;
+        QByteArray name(61, 'n');
         QCOMPARE(QByteArray(readWith(root, "bluename = " + name + "\n").bluename),
                  QByteArray("KRM510"));
     }
@@ -337,7 +345,7 @@ private slots:
         QCOMPARE(readConfigFile(&back), 0);
         QCOMPARE(memcmp(&c, &back, sizeof c), 0);
     }
-    void bluenameOf60CharactersIsWrittenAndReadBackAsDefault()
+    void storedDataNeverLost_bluenameOf60CharactersIsWrittenAndReadBack()
     {
         TestRoot root;
         _configParam c;
@@ -348,7 +356,7 @@ private slots:
         QVERIFY(root.read("/etc/krm510.conf").contains("bluename = " + QByteArray(60, 'b') + "\n"));
         _configParam back;
         readConfigFile(&back);
-        QCOMPARE(QByteArray(back.bluename), QByteArray("KRM510"));
+        QCOMPARE(QByteArray(back.bluename), QByteArray(60, 'b'));
     }
     void saveWithEtcNotEnterableGivesMinusThree()
     {
