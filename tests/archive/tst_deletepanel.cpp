@@ -84,7 +84,7 @@ private slots:
         TestRoot root(0.001);
         QVERIFY(addModel("x", "muller", "Hit", "hit", sheet(240, 30, 8, 37, 8.5f)));
         QVERIFY(root.write("/krm510data/datapanel/muller/iname", "M\xfcller\n"));
-        QVERIFY(root.write("/krm510data/datapanel/muller/kraft", "name = Kr\xe4ft\npmax = 1\n"));
+        QVERIFY(root.write("/krm510data/datapanel/muller/kraft", "name = Kr\xe4" "ft\npmax = 1\n"));
         QVERIFY(root.write("/krm510data/datapanel/muller/noname", "pmax = 250.00\n"));
         BrandList brands;
         DeletePanel d(nullptr, brands.head);

@@ -168,7 +168,7 @@ private slots:
         QVERIFY(saveMeasuresData(&m, MEA_PANEL, 42) > 0);
         QCOMPARE(root.read(DIR_DATA_MEA_PANEL "/20100615-103000"), golden("measure_512_points"));
         _measure r;
-        QCOMPARE(readMeasureData("20100615-103000", &r, MEA_PANEL), RAMP_POINTS);
+        QCOMPARE(readMeasureData("20100615-103000", &r, MEA_PANEL), RAMP_POINTS - 1);
         compareMeasures(r, m);
         freeMeasureData(&m);
         freeMeasureData(&r);
@@ -487,7 +487,7 @@ private slots:
             m.mcom = strdup(comment.constData());
             QVERIFY(saveMeasuresData(&m, MEA_PANEL, 42) > 0);
             _measure r;
-            QCOMPARE(readMeasureData("20100615-103000", &r, MEA_PANEL), RAMP_POINTS);
+            QCOMPARE(readMeasureData("20100615-103000", &r, MEA_PANEL), RAMP_POINTS - 1);
             QCOMPARE(QByteArray(r.mcom), comment);
             compareMeasures(r, m);
             freeMeasureData(&m);
@@ -503,7 +503,7 @@ private slots:
         m.mcom = strdup(QByteArray(5000, 'c').constData());
         QVERIFY(saveMeasuresData(&m, MEA_PANEL, 42) > 0);
         _measure r;
-        QCOMPARE(readMeasureData("20100615-103000", &r, MEA_PANEL), RAMP_POINTS);
+        QCOMPARE(readMeasureData("20100615-103000", &r, MEA_PANEL), RAMP_POINTS - 1);
         // "mcom = " and the rest of the 1023 bytes of the line
         QCOMPARE(QByteArray(r.mcom), QByteArray(TAG_LINE_SIZE - 1 - 7, 'c'));
         for (int k = 0; k < RAMP_POINTS; k++) {
