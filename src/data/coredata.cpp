@@ -43,6 +43,16 @@ int cFprintf(FILE* stream, const char* format, ...)
     return n;
 }
 
+int cSscanf(const char* text, const char* format, ...)
+{
+    CLocaleScope c;
+    va_list args;
+    va_start(args, format);
+    int n = vsscanf(text, format, args);
+    va_end(args);
+    return n;
+}
+
 int cSnprintf(char* target, size_t size, const char* format, ...)
 {
     CLocaleScope c;

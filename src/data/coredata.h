@@ -292,6 +292,9 @@ double cAtof(const char* text);
 int cFprintf(FILE* stream, const char* format, ...) __attribute__((format(printf, 2, 3)));
 int cSnprintf(char* target, size_t size, const char* format, ...)
     __attribute__((format(printf, 3, 4)));
+// The same for the numbers on the wire of the measuring board and the remote
+// unit, which the old code read and wrote in the process locale too.
+int cSscanf(const char* text, const char* format, ...) __attribute__((format(scanf, 2, 3)));
 
 // ---- Tag files: "key = value" lines.
 
