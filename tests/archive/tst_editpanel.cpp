@@ -118,8 +118,7 @@ private slots:
     {
         for (int row = 0; row < 2; row++) {
             TestRoot root(0.001);
-            QVERIFY(addModel("Solar", "solar", "Twin", "twin_a", sheet(200, 30, 8, 37, 8.5f)));
-            QVERIFY(addModel("Solar", "solar", "Twin", "twin_b", sheet(300, 30, 8, 37, 8.5f)));
+            QVERIFY(twinModels());
             BrandList brands;
             EditPanel d(nullptr, brands.head);
             QComboBox* model = child<QComboBox>(&d, "model");
@@ -139,10 +138,7 @@ private slots:
     void referenceIsTheOneChosen_latin1NamesAndFilesWithoutANameCanBeEdited()
     {
         TestRoot root(0.001);
-        QVERIFY(addModel("x", "muller", "Hit", "hit", sheet(240, 30, 8, 37, 8.5f)));
-        QVERIFY(root.write("/krm510data/datapanel/muller/iname", "M\xfcller\n"));
-        QVERIFY(root.write("/krm510data/datapanel/muller/kraft", "name = Kr\xe4" "ft\npmax = 1\n"));
-        QVERIFY(root.write("/krm510data/datapanel/muller/noname", "pmax = 250.00\nvmpp = nan\n"));
+        QVERIFY(olderInstrumentsBrand(root));
         BrandList brands;
         EditPanel d(nullptr, brands.head);
         QCOMPARE(child<QComboBox>(&d, "brand")->currentText(), QString::fromUtf8("Müller"));

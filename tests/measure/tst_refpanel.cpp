@@ -167,7 +167,8 @@ private slots:
         // the names as an older instrument wrote them, in Latin-1
         QVERIFY(root.write("/krm510data/datapanel/muller/iname", "M\xfcller\n"));
         QByteArray model = root.read("/krm510data/datapanel/muller/kraft");
-        model.replace("name = y\n", "name = Kr\xe4" "ft 250\n");
+        model.replace("name = y\n", "name = Kr\xe4"
+                                    "ft 250\n");
         QVERIFY(root.write("/krm510data/datapanel/muller/kraft", model));
         ReferencePanel d(nullptr);
         select(list(d, "Marca"), QString::fromUtf8("Müller"));
