@@ -160,6 +160,7 @@ void DeletePanel::eraseBrand()
     for (_listModel* m = _modelHead; m != nullptr; m = m->next)
         models++;
     QProgressDialog progress(tr("Cancella Modulo..."), QString(), 0, models + 2, this);
+    progress.reset(); // stops the show timer of the constructor (see PanelIV::measurePanel)
     progress.setWindowModality(Qt::WindowModal);
     progress.setStyleSheet(READ_PROGRESS_STYLE);
     progress.setValue(0);

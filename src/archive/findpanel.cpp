@@ -246,6 +246,7 @@ void FindPanel::findPanelInDB()
     for (_listBrand* b = _brandHead; b != nullptr; b = b->next)
         brands++;
     QProgressDialog progress(tr("Ricerca Modulo..."), tr("Cancella..."), 0, brands, this);
+    progress.reset(); // stops the show timer of the constructor (see PanelIV::measurePanel)
     progress.setWindowModality(Qt::WindowModal);
     progress.setMinimumDuration(10);
     progress.setStyleSheet(READ_PROGRESS_STYLE);

@@ -26,6 +26,7 @@ bool walkDataDir(QWidget* parent, const char* label, const char* path, _countFil
 {
     QProgressDialog progress(QObject::tr(label), QString(), 0, 100, parent,
                              Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
+    progress.reset(); // stops the show timer of the constructor (see PanelIV::measurePanel)
     progress.setMinimumDuration(1500);
     progress.setWindowModality(Qt::WindowModal);
     progress.setStyleSheet(READ_PROGRESS_STYLE);

@@ -6,6 +6,7 @@
 #include "data/storedtext.h"
 #include "device/ad7795.h"
 #include "device/gpiopd.h"
+#include "device/keyboard.h"
 #include "device/powerdevice.h"
 #include "device/remoteunit.h"
 #include "math/curvechain.h"
@@ -86,12 +87,12 @@ PanelIV::PanelIV(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowTitleHint), _result(0),
       _degradoEnabled(false), _degradoYears(0), _degradoPercent(0), _temperature(noValue),
       _temperatureProbe(noValue), _irradiance(noValue), _irradianceProbe(noValue), _pmax(0),
-      _vmpp(0), _impp(0), _pmaxStc(noValue), _vmppStc(noValue), _imppStc(noValue),
-      _isc(noValue), _voc(noValue), _iscStc(noValue), _vocStc(noValue), _deltaPmax(noValue),
-      _measureDone(false), _powerRestored(false), _rsDone(false), _rs(0), _rsI1(0), _rsI2(0),
-      _stcValid(false), _temperatureValid(false), _irradianceValid(false),
-      _referenceChosen(false), _curveValid(false), _powerOpcShown(false),
-      _powerStcShown(false), _powerDevice(nullptr), _shutDownOpen(false)
+      _vmpp(0), _impp(0), _pmaxStc(noValue), _vmppStc(noValue), _imppStc(noValue), _isc(noValue),
+      _voc(noValue), _iscStc(noValue), _vocStc(noValue), _deltaPmax(noValue), _measureDone(false),
+      _powerRestored(false), _rsDone(false), _rs(0), _rsI1(0), _rsI2(0), _stcValid(false),
+      _temperatureValid(false), _irradianceValid(false), _referenceChosen(false),
+      _curveValid(false), _powerOpcShown(false), _powerStcShown(false), _powerDevice(nullptr),
+      _shutDownsSeen(DialogShutDown::opened()), _measureRunning(false)
 {
     setObjectName("PanelIV");
     readConfigFile(&_config);
@@ -178,10 +179,10 @@ PanelIV::PanelIV(QWidget* parent)
     _timerSupply = new QTimer(this);
     connect(_timerSupply, &QTimer::timeout, this, &PanelIV::displayPowerSupply);
     Clock::start(_timerSupply, 700);
-    // Never placed: the screen shows clock and supply on its own labels. The
-    // bar still brings the hardware keys to the screen.
-    _infoBar = new InfoBar(this);
-    _infoBar->hide();
+    // No status bar: the screen shows clock and supply on its own labels and
+    // polls the supply itself (a hidden bar polled it a second time and could
+    // open a second low-battery dialog). The hardware keys come from here.
+    new GpioKeyboard(this);
     displayClock();
 
     _buttonStart->setFocus();
@@ -198,8 +199,24 @@ PanelIV::~PanelIV()
 
 void PanelIV::measurePanel()
 {
+    // The board exchange and the boxes run event loops in which "Start" can be
+    // touched again: no measure starts inside another.
+    if (_measureRunning)
+        return;
+    _measureRunning = true;
+    struct Running {
+        bool* flag;
+        ~Running() { *flag = false; }
+    } running{&_measureRunning};
+
     QMessageBox box(this);
     QProgressDialog progress(tr("Misura Modulo..."), QString(), 0, 512, this, boxFlags);
+    // Qt 6 starts a timer in the constructor that shows the dialog after its
+    // minimum duration, even with no setValue at all: a refused start would
+    // show it over the refusal's box. The old toolkit showed a progress
+    // dialog only on show() or once setValue had passed the minimum duration;
+    // reset() stops that timer and leaves those two ways.
+    progress.reset();
     progress.setObjectName("MeasureProgress");
     progress.setStyleSheet(blueProgressStyle);
 
@@ -240,8 +257,14 @@ void PanelIV::measurePanel()
     }
     _powerDevice->acquireLastInfo(&_infoLast);
 
-    if (getProbeVar(false) != 0)
+    if (getProbeVar(false) != 0) {
+        // The ramps were cleared: an earlier measure can no longer be saved,
+        // or its figures would go to file with a ramp of zeros. The old
+        // instrument left "Salva" as it was here.
+        _measureDone = false;
+        _buttonSave->setEnabled(false);
         return;
+    }
     const float g2 = _irradianceProbe;
     _temperature = t1;
     _temperatureProbe = t1;
@@ -317,6 +340,7 @@ void PanelIV::failMeasure(QMessageBox* box, _pdError error)
         break;
     case PD_NO_REPLY:
         box->setIcon(QMessageBox::Critical);
+        notePowerRestored();
         if (_powerRestored) {
             // the low battery dialog cut the board's supply: a lost reply was expected
             box->setText(tr("Eseguito ripristino modulo potenza."));
@@ -344,8 +368,8 @@ void PanelIV::failMeasure(QMessageBox* box, _pdError error)
 
 int PanelIV::getProbeVar(bool showProgress)
 {
-    QProgressDialog progress(tr("Acquisizione Misure Ambiente"), QString(), 0, 10, this,
-                             boxFlags);
+    QProgressDialog progress(tr("Acquisizione Misure Ambiente"), QString(), 0, 10, this, boxFlags);
+    progress.reset(); // stops the show timer of the constructor (see measurePanel)
     progress.setObjectName("EnvironmentProgress");
     if (showProgress) {
         progress.setStyleSheet(blueProgressStyle);
@@ -724,14 +748,22 @@ void PanelIV::displayPowerSupply()
         _labelSupply->setPixmap(QPixmap(batteryPicture[level]));
         return;
     }
-    // The timer goes on inside the dialog's loop: one dialog is enough.
-    if (_shutDownOpen)
+    // The timer goes on inside the dialog's loop, and the main menu's status
+    // bar polls too: one dialog in the program is enough, whoever opened it.
+    if (!DialogShutDown::isOpen()) {
+        DialogShutDown dialog(this);
+        dialog.exec();
+    }
+    notePowerRestored();
+}
+
+// A low-battery dialog, this screen's or the main menu's, cut the board's
+// supply: its next silence is expected.
+void PanelIV::notePowerRestored()
+{
+    if (DialogShutDown::opened() == _shutDownsSeen)
         return;
-    _shutDownOpen = true;
-    DialogShutDown dialog(this);
-    dialog.exec();
-    _shutDownOpen = false;
-    // the board was switched off and on: its next silence is expected
+    _shutDownsSeen = DialogShutDown::opened();
     _powerRestored = true;
 }
 

@@ -203,8 +203,10 @@ void DialogSystem::applyDateTime()
 {
     QString text = dateTimeEdit->text();
     text.replace("/", "-");
-    QByteArray command = QString("date -s +\"%1\"\n").arg(text).toLocal8Bit();
-    Command::system(command.constData());
+    // "+" and the text as one quoted argument, as the old "date -s +\"...\"".
+    std::string command =
+        "date -s " + Command::quote(QString("+%1").arg(text).toLocal8Bit().toStdString()) + "\n";
+    Command::system(command.c_str());
     Command::system("hwclock -w\n");
 }
 
@@ -261,6 +263,15 @@ void DialogSystem::insertBlueName()
     if (text.isEmpty()) {
         showMessageBox(this, QMessageBox::Information, title, tr("Il nome non può essere nullo."));
         return;
+    }
+    // The name goes between double quotes into "/etc/bluetooth/rfcomm.conf":
+    // a quote, a semicolon, a backslash or a control character there could
+    // end the comment and add statements of its own.
+    for (QChar c : text) {
+        if (c == '"' || c == ';' || c == '\\' || c.category() == QChar::Other_Control) {
+            showMessageBox(this, QMessageBox::Information, title, tr("Nome non valido."));
+            return;
+        }
     }
     QByteArray bytes = text.toLocal8Bit().left(BLUENAME_SIZE - 1);
     strcpy(_config.bluename, bytes.constData());

@@ -1,9 +1,11 @@
-#include "measure/panelfixture.h"
 #include "math/rndf.h"
+#include "measure/dialogshutdown.h"
+#include "measure/panelfixture.h"
 #include "platform/clock.h"
 #include "shell/language.h"
 #include "support/modaldriver.h"
 #include "support/screenshot.h"
+#include "toolkit/infobar.h"
 
 #include <QLabel>
 #include <QRegularExpression>
@@ -19,6 +21,9 @@ using namespace panelfixture;
 class TestPanelMeasure : public QObject
 {
     Q_OBJECT
+
+    PanelIV* current = nullptr;
+    QWidget* screenOf() const { return current; }
 
     static const char* coolingText()
     {
@@ -410,6 +415,27 @@ private slots:
         QCOMPARE(driver.boxes[0].text, QString("Problema di connessione al Power Device."));
         QCOMPARE(driver.boxes[0].icon, QMessageBox::Critical);
     }
+    // A NUL byte inside the ramp's data ends the reply's text before its
+    // status line: a lost connection, never a good measure of zero points.
+    void numberIsANumber_nulInsideTheRampIsALostConnection()
+    {
+        TestRoot root(0.01);
+        SimInstrument sim(root);
+        configure(root);
+        QVERIFY(world(sim, 850, 45));
+        QVERIFY(sim.command("board fault nul"));
+        ModalDriver driver;
+        driver.answerBox();
+        PanelIV panel(nullptr);
+        panel.show();
+        touch(&panel, "Start");
+        QCOMPARE(driver.boxes.size(), 1);
+        QCOMPARE(driver.boxes[0].text, QString("Problema di connessione al Power Device."));
+        QCOMPARE(driver.boxes[0].icon, QMessageBox::Critical);
+        QVERIFY(!panel._measureDone);
+        QVERIFY(!child<QPushButton>(&panel, "Salva")->isEnabled());
+    }
+
     void exhaustedBatteryDuringARampOpensTheShutDownDialogAndTheNextSilenceIsARestoration()
     {
         TestRoot root(0.01);
@@ -420,13 +446,10 @@ private slots:
         ModalDriver driver;
         QStringList seen;
         PanelIV* screen = nullptr;
-        // The screen's hidden status bar polls the supply too and may open its
-        // dialog before the screen's own poll does; only the screen's own
-        // dialog marks the restoration.
-        bool screensOwn = false;
+        QWidget* opener = nullptr;
         driver.onNext([&](QWidget* w) {
             seen << w->metaObject()->className();
-            screensOwn = w->parentWidget() == screen;
+            opener = w->parentWidget();
             sim.setAdapter(true); // the charger comes
         });
         // The battery gives out once the first reading has passed; the dialog
@@ -445,13 +468,11 @@ private slots:
         touch(&panel, "Start");
         QVERIFY(watch.done);
         QCOMPARE(seen, QStringList{"DialogShutDown"});
+        // the screen has no status bar: the dialog is its own
+        QCOMPARE(opener, static_cast<QWidget*>(screen));
         QCOMPARE(driver.boxes.size(), 1);
         QCOMPARE(driver.boxes[0].title, QString("Power Device"));
-        if (screensOwn)
-            QCOMPARE(driver.boxes[0].text, QString("Eseguito ripristino modulo potenza."));
-        else // the bar's dialog came first: the screen's own may or may not follow it
-            QVERIFY(driver.boxes[0].text == "Eseguito ripristino modulo potenza." ||
-                    driver.boxes[0].text == "Problema di connessione al Power Device.");
+        QCOMPARE(driver.boxes[0].text, QString("Eseguito ripristino modulo potenza."));
         QCOMPARE(driver.boxes[0].icon, QMessageBox::Critical);
         QVERIFY(!panel._powerRestored);
         QVERIFY(!panel._measureDone);
@@ -461,6 +482,139 @@ private slots:
         touch(&panel, "Start");
         QCOMPARE(driver.boxes.size(), 2);
         QCOMPARE(driver.boxes[1].text, QString("Problema di connessione al Power Device."));
+    }
+
+    // The measuring screen had a hidden status bar that polled the supply a
+    // second time and could open a second low-battery dialog over its own;
+    // the main menu's bar behind the screen polls as well. One dialog is open
+    // in the program at a time, and whichever opened it, the board's next
+    // silence is told as a restoration.
+    void oneBatteryDialogWithTheMenusBarBehindTheScreen()
+    {
+        TestRoot root(0.01);
+        SimInstrument sim(root);
+        configure(root);
+        QVERIFY(world(sim, 850, 45));
+        QVERIFY(sim.setAdapter(false));
+        InfoBar menuBar(nullptr); // the main menu's bar, polling behind the screen
+        ModalDriver driver;
+        int mostOpen = 0;
+        int dialogs = 0;
+        QTimer count;
+        QObject::connect(&count, &QTimer::timeout, [&] {
+            int open = 0;
+            for (QWidget* w : QApplication::topLevelWidgets())
+                open += qobject_cast<DialogShutDown*>(w) != nullptr && w->isVisible();
+            mostOpen = qMax(mostOpen, open);
+        });
+        count.start(0);
+        // should a second dialog open, the charger comes anyway and ends them
+        QTimer rescue;
+        rescue.setSingleShot(true);
+        QObject::connect(&rescue, &QTimer::timeout, [&] { sim.setAdapter(true); });
+        rescue.start(20000);
+        driver.onNext([&](QWidget*) {
+            dialogs++;
+            // both polls go on inside the dialog for many of their periods
+            QTest::qWait(300);
+            sim.setAdapter(true);
+        });
+        ProgressWatch watch("Misura Modulo...", [&] {
+            sim.forceAdc("battery", 27000);
+            sim.command("board fault nostatus once");
+            QTRY_VERIFY_WITH_TIMEOUT(dialogs > 0, 5000);
+        });
+        PanelIV panel(nullptr);
+        driver.answerBox();
+        panel.show();
+        touch(&panel, "Start");
+        QVERIFY(watch.done);
+        QCOMPARE(panel.findChildren<InfoBar*>().size(), 0);
+        QCOMPARE(mostOpen, 1);
+        QCOMPARE(dialogs, 1);
+        QCOMPARE(driver.boxes.size(), 1);
+        QCOMPARE(driver.boxes[0].text, QString("Eseguito ripristino modulo potenza."));
+    }
+
+    // Qt 6 shows a progress dialog by itself once its minimum duration has
+    // passed since it was built; the old toolkit showed one only on show() or
+    // once setValue had passed that duration. A start refused by its first
+    // reading never shows "Misura Modulo...", however long its box stays.
+    void qt6IsNotTheOldToolkit_noMeasureProgressOverARefusalBoxKeptOpen()
+    {
+        TestRoot root(0.01);
+        SimInstrument sim(root);
+        configure(root);
+        QVERIFY(world(sim, 850, 45));
+        QVERIFY(sim.command("set pt100 open"));
+        ModalDriver driver;
+        QStringList shown;
+        driver.onNext([&](QWidget* w) {
+            // longer than the 4 s a progress dialog waits by default
+            QTest::qWait(4500);
+            for (QWidget* top : QApplication::topLevelWidgets())
+                if (qobject_cast<QProgressDialog*>(top) != nullptr && top->isVisible())
+                    shown << top->objectName();
+            static_cast<QMessageBox*>(w)->accept();
+        });
+        PanelIV panel(nullptr);
+        panel.show();
+        touch(&panel, "Start");
+        QCOMPARE(driver.pending(), 0);
+        // the environment's dialog was shown on purpose; the measure's never
+        QVERIFY2(!shown.contains("MeasureProgress"), qPrintable(shown.join(' ')));
+    }
+
+    // ---- One measure at a time
+    // The board exchange runs event loops in which "Start" can be pressed
+    // again, by touch or by the hardware key: the old instrument then started
+    // a measure inside the measure.
+    void startPressedDuringAMeasureIsIgnored()
+    {
+        TestRoot root(0.01);
+        SimInstrument sim(root);
+        configure(root);
+        QVERIFY(world(sim, 850, 45));
+        QVERIFY(sim.command("board log clear"));
+        ProgressWatch watch("Misura Modulo...", [&] {
+            child<QPushButton>(screenOf(), "Start")->click();
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QApplication::sendEvent(screenOf(), &press);
+        });
+        PanelIV panel(nullptr);
+        current = &panel;
+        panel.show();
+        child<QPushButton>(&panel, "Start")->setFocus();
+        touch(&panel, "Start");
+        QVERIFY(watch.done);
+        QVERIFY(panel._measureDone);
+        QCOMPARE(sim.boardCommands().filter("mea_brask").size(), 1);
+        QCOMPARE(sim.boardCommands().filter("temp_hsink").size(), 1);
+    }
+
+    // A "Start" whose second reading fails after the ramps were cleared left
+    // "Salva" on for the earlier measure on the old instrument: saving then
+    // wrote its figures with a ramp of zeros.
+    void storedDataNeverLost_startEndingWithoutACurveTurnsSaveOff()
+    {
+        TestRoot root(0.01);
+        SimInstrument sim(root);
+        configure(root);
+        QVERIFY(world(sim, 850, 45));
+        ModalDriver driver;
+        PanelIV panel(nullptr);
+        panel.show();
+        touch(&panel, "Start");
+        QVERIFY(panel._measureDone);
+        QVERIFY(child<QPushButton>(&panel, "Salva")->isEnabled());
+        driver.answerBox();
+        ProgressWatch watch("Misura Modulo...", [&] { sim.command("set pt100 open"); });
+        touch(&panel, "Start");
+        QVERIFY(watch.done);
+        QCOMPARE(driver.boxes.size(), 1);
+        QCOMPARE(driver.boxes[0].text, QString("Temperatura non rilevata."));
+        QVERIFY(!panel._measureDone);
+        QVERIFY(!child<QPushButton>(&panel, "Salva")->isEnabled());
     }
 
     // ---- The measures menu
