@@ -1,6 +1,7 @@
 #include "toolkit/dialogsystem.h"
 
 #include "data/freespace.h"
+#include "data/storedtext.h"
 #include "device/powerdevice.h"
 #include "platform/clock.h"
 #include "platform/command.h"
@@ -85,10 +86,10 @@ DialogSystem::DialogSystem(_configParam* config, QWidget* parent) : QDialog(pare
     remoteCombo->addItems({tr("Locale"), tr("Rs-232 Serial Adapter"), tr("Bluetooth Adapter")});
     remoteCombo->setCurrentIndex(_config.remote);
     addRow(tr("Unità Remota"), remoteCombo);
-    blueMacButton = new QPushButton(QString::fromLocal8Bit(_config.bluemac), page);
+    blueMacButton = new QPushButton(storedText(_config.bluemac), page);
     blueMacButton->setObjectName("bluemac");
     addRow(tr("Bluetooth Address (MAC)"), blueMacButton);
-    blueNameButton = new QPushButton(QString::fromLocal8Bit(_config.bluename), page);
+    blueNameButton = new QPushButton(storedText(_config.bluename), page);
     blueNameButton->setObjectName("bluename");
     addRow(tr("Nome Dispositivo"), blueNameButton);
     blueMacButton->setEnabled(_config.remote == LINK_BLUETOOTH);
@@ -236,7 +237,7 @@ static QString typeText(QWidget* parent, const QString& title, const QString& in
 void DialogSystem::insertBlueMac()
 {
     QString text = typeText(this, tr("Bluetooh MAC (formato AA:BB:CC:DD:EE:FF)"),
-                            QString::fromLocal8Bit(_config.bluemac), false);
+                            storedText(_config.bluemac), false);
     if (text.isNull())
         return;
     if (text.length() != 17) {
@@ -244,7 +245,7 @@ void DialogSystem::insertBlueMac()
                        tr("MAC deve essere formato da 48 bit."));
         return;
     }
-    QByteArray bytes = text.toLocal8Bit().left(BLUEMAC_SIZE - 1);
+    QByteArray bytes = textToStore(text).left(BLUEMAC_SIZE - 1);
     strcpy(_config.bluemac, bytes.constData());
     blueMacButton->setText(text);
 }
@@ -252,7 +253,7 @@ void DialogSystem::insertBlueMac()
 void DialogSystem::insertBlueName()
 {
     QString text = typeText(this, tr("Nome Dispositivo Remoto"),
-                            QString::fromLocal8Bit(_config.bluename), false);
+                            storedText(_config.bluename), false);
     if (text.isNull())
         return;
     QString title = tr("Bluetooth Nome Dispositivo Remoto");
@@ -273,7 +274,7 @@ void DialogSystem::insertBlueName()
             return;
         }
     }
-    QByteArray bytes = text.toLocal8Bit().left(BLUENAME_SIZE - 1);
+    QByteArray bytes = textToStore(text).left(BLUENAME_SIZE - 1);
     strcpy(_config.bluename, bytes.constData());
     blueNameButton->setText(text);
 }

@@ -168,6 +168,21 @@ private slots:
         QCOMPARE(driver.keyboardInitial.value(0), QString());
         QCOMPARE(d._config.cpyar, 5.0f);
     }
+    // The old screen handed the stored bytes to the toolkit in the process's
+    // encoding: a name written by an older instrument in Latin-1 came back
+    // broken. Texts speak UTF-8, and Latin-1 when they are not UTF-8.
+    void storedDataNeverLost_bluetoothNameInLatin1OrUtf8IsShownWhole()
+    {
+        TestRoot root(0.001);
+        _configParam c = defaults();
+        c.remote = LINK_BLUETOOTH;
+        strcpy(c.bluename, "K\xe4rm 510");
+        DialogSystem latin1(&c, nullptr);
+        QCOMPARE(child<QPushButton>(&latin1, "bluename")->text(), QString::fromUtf8("Kärm 510"));
+        strcpy(c.bluename, "K\xc3\xa4rm 510");
+        DialogSystem utf8(&c, nullptr);
+        QCOMPARE(child<QPushButton>(&utf8, "bluename")->text(), QString::fromUtf8("Kärm 510"));
+    }
     void manualTemperatureOfMinus20And100IsAccepted()
     {
         TestRoot root(0.001);
