@@ -7,7 +7,9 @@ QString storedText(const char* text)
     if (text == nullptr)
         return QString();
     QByteArray bytes(text);
-    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    // a leading byte-order mark is a character of the text, kept as it is
+    QStringDecoder utf8(QStringDecoder::Utf8,
+                        QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     QString decoded = utf8.decode(bytes);
     if (!utf8.hasError())
         return decoded;

@@ -22,6 +22,17 @@ private slots:
         // a cut UTF-8 sequence is not UTF-8 either: every byte is kept
         QCOMPARE(storedText("ab\xc3"), QString::fromUtf8("abÃ"));
     }
+    void textsSpeakUtf8_everyStoredTextComesBackByteForByte()
+    {
+        // a leading byte-order mark, an overlong sequence, a lone surrogate
+        for (const char* bytes : {"\xef\xbb\xbf"
+                                  "abc",
+                                  "\xc0\xaf", "\xed\xa0\x80", "\xf4\x90\x80\x80", "\x7f\x01"}) {
+            QString text = storedText(bytes);
+            QVERIFY2(textToStore(text) == QByteArray(bytes) || text.toLatin1() == QByteArray(bytes),
+                     bytes);
+        }
+    }
     void textsSpeakUtf8_nullIsANullText() { QVERIFY(storedText(nullptr).isNull()); }
     void textsSpeakUtf8_textsAreWrittenInUtf8AndReadBackWhole()
     {
