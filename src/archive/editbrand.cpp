@@ -2,6 +2,7 @@
 
 #include "archive/archiveform.h"
 #include "data/datapanel.h"
+#include "data/storedtext.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
 
@@ -56,15 +57,13 @@ EditBrand::EditBrand(QWidget* parent, _listBrand* brandList)
 void EditBrand::readBrandPanel()
 {
     _listWidgetBrand->clear();
-    _brandDir.clear();
-    QStringList names;
-    for (_listBrand* b = _brandHead; b != nullptr; b = b->next) {
-        QString name = QString::fromLocal8Bit(b->name);
-        names << name;
-        _brandDir.insert(name, QString::fromLocal8Bit(b->dir));
+    // each item keeps its brand's directory: two brands may bear one name
+    QList<NamedEntry> brands = brandEntries(_brandHead);
+    sortByName(&brands);
+    for (const NamedEntry& e : brands) {
+        QListWidgetItem* item = new QListWidgetItem(e.name, _listWidgetBrand);
+        item->setData(Qt::UserRole, e.key);
     }
-    names.sort();
-    _listWidgetBrand->addItems(names);
     _listWidgetBrand->insertItem(0, tr("<Nuova Marca>"));
 }
 
@@ -123,7 +122,7 @@ void EditBrand::saveBrand()
                        tr("Testo inserito non valido."));
         return;
     }
-    QByteArray typed = name.toLocal8Bit();
+    QByteArray typed = textToStore(name);
     int result = -1;
     QString text;
     if (selected == tr("<Nuova Marca>")) {
@@ -133,7 +132,7 @@ void EditBrand::saveBrand()
         free(dir);
         text = tr("Inserita nuova marca");
     } else {
-        QByteArray dir = _brandDir.value(selected).toLocal8Bit();
+        QByteArray dir = _listWidgetBrand->currentItem()->data(Qt::UserRole).toByteArray();
         result = updateBrand(dir.constData(), typed.constData());
         text = tr("Aggiornamento eseguito.");
     }

@@ -4,7 +4,6 @@
 #include "data/coredata.h"
 
 #include <QDialog>
-#include <QMap>
 
 class InfoBar;
 class QLineEdit;
@@ -34,8 +33,6 @@ private:
     void readBrandPanel();
     QString selectedText() const;
     void updateSaveButton();
-
-    QMap<QString, QString> _brandDir;
 
     InfoBar* _infoBar;
     QListWidget* _listWidgetBrand;

@@ -2,10 +2,12 @@
 
 #include "archive/archiveform.h"
 #include "data/datapanel.h"
+#include "data/storedtext.h"
 #include "toolkit/embkeyboard.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
 #include "toolkit/tabcolumns.h"
+#include "toolkit/numbertext.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -95,7 +97,7 @@ QString FindPanel::floatToString(float value)
 {
     if (value == 0)
         return QString("");
-    return QString::number(static_cast<double>(value), 'f', 2);
+    return storedNumberText(value, 2);
 }
 
 void FindPanel::resetParameters()
@@ -163,14 +165,14 @@ void FindPanel::editLineObject(QObject* obj)
     keyboard->toKeyPad();
     if (keyboard->exec() == QDialog::Accepted) {
         QString text = keyboard->stringEntered();
-        bool ok = false;
-        float value = text.toFloat(&ok);
+        float value = 0;
+        bool ok = finiteNumber(text, &value);
         QLineEdit* minimum = _edit[row][MINIMUM];
         QLineEdit* maximum = _edit[row][MAXIMUM];
         QString refusal;
         if (text.isEmpty()) {
             edit->clear();
-        } else if (!ok || !std::isfinite(value)) {
+        } else if (!ok) {
             refusal = tag[row] + text;
         } else if (value < 0) {
             refusal = negative[row][field] + text;
@@ -206,10 +208,10 @@ void FindPanel::headerFindList()
 void FindPanel::addPanelInFindList(_listBrand* brand, _listModel* model, _panelFeature* feature)
 {
     QStringList cells;
-    cells << QString::fromLocal8Bit(brand->name).left(8)
-          << QString::fromLocal8Bit(model->name).left(10) << floatToString(feature->pmax)
-          << floatToString(feature->vmpp) << floatToString(feature->impp)
-          << floatToString(feature->voc) << floatToString(feature->isc);
+    cells << storedText(brand->name).left(8) << storedText(model->name).left(10)
+          << floatToString(feature->pmax) << floatToString(feature->vmpp)
+          << floatToString(feature->impp) << floatToString(feature->voc)
+          << floatToString(feature->isc);
     _listFind->addItem(cells.join("\t"));
 }
 

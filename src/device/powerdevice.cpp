@@ -314,7 +314,7 @@ _pdError PowerDevice::acquireTempHSink(float* temperature)
     char reply[valueReplySize];
     _pdError error = exchangeValue(power_cmd[12], reply, sizeof reply);
     if (error == PD_OK)
-        std::sscanf(reply, "%f", temperature);
+        cSscanf(reply, "%f", temperature); // numbers on the wire speak C
     else
         *temperature = 0;
     return error;

@@ -193,7 +193,7 @@ void RemoteUnit::sendTon(bool on)
 void RemoteUnit::sendSensPyrano()
 {
     char text[64];
-    std::snprintf(text, sizeof text, remote_cmd[REMOTE_PYSENS], static_cast<double>(sensPyrano));
+    cSnprintf(text, sizeof text, remote_cmd[REMOTE_PYSENS], static_cast<double>(sensPyrano));
     writeUsbPort(text);
     Clock::sleep(1);
 }
@@ -335,7 +335,7 @@ float RemoteUnit::valueVersion2(_remoteCmd command, const char* format, char* ok
         return 0; // the unit has no value
     *ok = 1;
     float value = 0;
-    std::sscanf(reply, format, &value);
+    cSscanf(reply, format, &value); // numbers on the wire speak C
     return value;
 }
 

@@ -3,6 +3,7 @@
 #include "data/datameasures.h"
 #include "data/datapanel.h"
 #include "data/datasetting.h"
+#include "data/storedtext.h"
 #include "device/ad7795.h"
 #include "device/gpiopd.h"
 #include "device/keyboard.h"
@@ -70,9 +71,9 @@ QPushButton* barButton(const QString& text, const char* name, bool flat)
 
 void copyName(char* target, const char* source)
 {
-    std::memset(target, 0, 256);
+    std::memset(target, 0, TEXT_COPY_SIZE);
     if (source != nullptr)
-        std::strncpy(target, source, 255);
+        std::strncpy(target, source, TEXT_COPY_SIZE - 1);
 }
 
 void showConversion(void* context, int k)
@@ -643,7 +644,7 @@ void PanelIV::goToReferencePanel()
     copyName(_modelName, dialog->_selectedModel->name);
     delete dialog;
     getPanelFeature(_brandDir, _modelFile, &_reference);
-    _plotter->setTitle(_title + " / " + QString::fromLocal8Bit(_modelName));
+    _plotter->setTitle(_title + " / " + storedText(_modelName));
     _referenceChosen = true;
     checkPanelOk();
 }
@@ -668,14 +669,14 @@ void PanelIV::goToSavePanelAcquired()
         delete box;
         return;
     }
-    char date[256];
-    char time[256];
-    char comment[256];
+    char date[TEXT_COPY_SIZE];
+    char time[TEXT_COPY_SIZE];
+    char comment[TEXT_COPY_SIZE];
     std::memcpy(date, dialog->_date, sizeof date);
     std::memcpy(time, dialog->_time, sizeof time);
     std::memcpy(comment, dialog->_comment, sizeof comment);
-    date[255] = time[255] = comment[255] = '\0';
-    _comment = QString("%1").arg(QString::fromLocal8Bit(comment));
+    date[TEXT_COPY_SIZE - 1] = time[TEXT_COPY_SIZE - 1] = comment[TEXT_COPY_SIZE - 1] = '\0';
+    _comment = storedText(comment);
 
     _measure measure;
     std::memset(&measure, 0, sizeof measure);

@@ -51,10 +51,10 @@ public:
     float _isc, _voc;
     float _iscStc, _vocStc;
     float _deltaPmax;
-    char _modelFile[256];
-    char _brandDir[256];
-    char _modelName[256];
-    char _brandName[256];
+    char _modelFile[TEXT_COPY_SIZE];
+    char _brandDir[TEXT_COPY_SIZE];
+    char _modelName[TEXT_COPY_SIZE];
+    char _brandName[TEXT_COPY_SIZE];
     bool _measureDone;
     bool _powerRestored;
     bool _rsDone;

@@ -12,10 +12,16 @@
 #include <QPixmap>
 #include <QSplashScreen>
 #include <QTranslator>
+#include <clocale>
 
 int startInstrument(int& argc, char** argv)
 {
     QApplication app(argc, argv);
+    // The toolkit has just set the process locale from the environment; the
+    // old instrument then read and wrote numbers in it. Numbers speak C
+    // whatever the operator's locale (the data layer also keeps its own C
+    // locale, so this covers the rest: replies of the board and the unit).
+    setlocale(LC_NUMERIC, "C");
 
     setInstrumentLook();
 

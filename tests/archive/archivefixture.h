@@ -142,6 +142,25 @@ inline void onScreen(ModalDriver& driver, const char* className,
 }
 
 // Closes the brand list of a screen's caller at the end of a test.
+// Two models of one name, "Twin", in the files twin_a (200 W) and twin_b (300 W).
+inline bool twinModels()
+{
+    return addModel("Solar", "solar", "Twin", "twin_a", sheet(200, 30, 8, 37, 8.5f)) &&
+           addModel("Solar", "solar", "Twin", "twin_b", sheet(300, 30, 8, 37, 8.5f));
+}
+
+// A brand as an older instrument left it: "Müller" in Latin-1 (directory
+// muller) with the models "Hit" (hit), "Kräft" in Latin-1 (kraft, 1 W) and
+// a file without a name line (noname, 250 W, its Vmpp stored as "nan").
+inline bool olderInstrumentsBrand(const TestRoot& root)
+{
+    return addModel("x", "muller", "Hit", "hit", sheet(240, 30, 8, 37, 8.5f)) &&
+           root.write("/krm510data/datapanel/muller/iname", "M\xfcller\n") &&
+           root.write("/krm510data/datapanel/muller/kraft", "name = Kr\xe4"
+                                                            "ft\npmax = 1\n") &&
+           root.write("/krm510data/datapanel/muller/noname", "pmax = 250.00\nvmpp = nan\n");
+}
+
 struct BrandList {
     _listBrand* head;
     BrandList() : head(readListBrandPanel(nullptr)) {}

@@ -91,6 +91,37 @@ private slots:
         QCOMPARE(root.read("/krm510data/datapanel/solar/iname"), QByteArray("Solar Energy\n"));
         QCOMPARE(rows(d), QStringList({"<Nuova Marca>", "Solar Energy"}));
     }
+    // The old screen kept one directory per name: of two brands of one name
+    // it renamed the same one whichever was chosen. The brand renamed is
+    // the one chosen.
+    void referenceIsTheOneChosen_ofTwoBrandsOfOneNameTheChosenOneIsRenamed()
+    {
+        for (int row = 1; row <= 2; row++) {
+            TestRoot root(0.001);
+            QVERIFY(addBrand("Solar", "solar"));
+            QVERIFY(addBrand("Solar", "solar_2"));
+            BrandList brands;
+            EditBrand d(nullptr, brands.head);
+            ModalDriver driver;
+            QListWidget* list = child<QListWidget>(&d, "brands");
+            QCOMPARE(rows(d), QStringList({"<Nuova Marca>", "Solar", "Solar"}));
+            QListWidgetItem* item = list->item(row);
+            const QString dir = item->data(Qt::UserRole).toString();
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                              list->visualItemRect(item).center());
+            enter(driver, &d, "name", "Renamed");
+            driver.answerBox();
+            touch(save(d));
+            brands.head = d._brandHead;
+            const QString other = dir == "solar" ? "solar_2" : "solar";
+            QCOMPARE(
+                root.read(("/krm510data/datapanel/" + dir + "/iname").toLocal8Bit().constData()),
+                QByteArray("Renamed\n"));
+            QCOMPARE(
+                root.read(("/krm510data/datapanel/" + other + "/iname").toLocal8Bit().constData()),
+                QByteArray("Solar\n"));
+        }
+    }
     void saveWaitsForASelectedRowAndAnotherText()
     {
         TestRoot root(0.001);

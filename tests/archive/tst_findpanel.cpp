@@ -306,6 +306,36 @@ private slots:
         QCOMPARE(driver.boxes.value(0).informative, QString("Vmpp : 1X"));
         QCOMPARE(child<QLineEdit>(&d, "vmppMin")->text(), QString());
     }
+    void numberIsANumber_nanInfAndNumbersBeyondAFloatAreRefused()
+    {
+        TestRoot root(0.001);
+        FindPanel d(nullptr, nullptr);
+        ModalDriver driver;
+        const QStringList texts{"nan", "-NaN", "inf", "+Infinity", "1e39"};
+        for (const QString& t : texts)
+            enterRefused(driver, &d, "pmaxMin", t);
+        QCOMPARE(driver.boxes.size(), texts.size());
+        QCOMPARE(driver.boxes.value(0).informative, QString("Pmax : nan"));
+        QCOMPARE(child<QLineEdit>(&d, "pmaxMin")->text(), QString());
+        QVERIFY(!child<QPushButton>(&d, "Cerca")->isEnabled());
+    }
+    void numberIsANumber_aStoredNanOrInfShowsDashesInTheResults()
+    {
+        TestRoot root(0.001);
+        QVERIFY(addModel("Solar", "solar", "S100", "s100", sheet(100, 20, 5, 25, 5.5f)));
+        QByteArray file = root.read("/krm510data/datapanel/solar/s100");
+        file.replace("\nvoc = 25.00\n", "\nvoc = nan\n");
+        file.replace("\nisc = 5.50\n", "\nisc = inf\n");
+        QVERIFY(root.write("/krm510data/datapanel/solar/s100", file));
+        BrandList brands;
+        FindPanel d(nullptr, brands.head);
+        ModalDriver driver;
+        enter(driver, &d, "pmaxMin", "50");
+        search(d);
+        QListWidget* list = child<QListWidget>(&d, "result");
+        QCOMPARE(list->count(), 2);
+        QCOMPARE(list->item(1)->text().split('\t').mid(5), QStringList({"----", "----"}));
+    }
     void aMinimumAboveTheMaximumIsRefused()
     {
         TestRoot root(0.001);
