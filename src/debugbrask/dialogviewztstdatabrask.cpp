@@ -1,0 +1,112 @@
+#include "debugbrask/dialogviewztstdatabrask.h"
+
+#include "debugbrask/datasave.h"
+#include "debugbrask/dialoginfosave.h"
+#include "toolkit/infobar.h"
+#include "toolkit/messagebox.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <cstring>
+
+DialogViewZTstDataBrask::DialogViewZTstDataBrask(QWidget* parent, _tstBrask* tst, int target,
+                                                 float tempStart, float tempStop)
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowTitleHint), _tst(tst),
+      _target(target), _tempStart(tempStart), _tempStop(tempStop)
+{
+    setObjectName("Z tst Brask");
+    _infoBar = new InfoBar(this);
+    _infoBar->setTitle(tr("View Data Z Tst Brask Unit"));
+    _list = new QListWidget(this);
+    _list->setObjectName("Data");
+    QFont font = _list->font();
+    font.setPointSize(22);
+    _list->setFont(font);
+    _list->addItem(QStringList{tr("Num."), tr("ADI (dec)"), tr("ADV (dec)"), tr("vGate imp(dec)"),
+                               tr("vGate eff(dec)")}
+                       .join("\t "));
+    addValueOnList();
+    _buttonSave = new QPushButton(tr("Save"), this);
+    _buttonSave->setObjectName("Save");
+    _buttonExit = new QPushButton(tr("Exit"), this);
+    _buttonExit->setObjectName("Exit");
+    QHBoxLayout* buttons = new QHBoxLayout;
+    buttons->addWidget(_buttonSave);
+    buttons->addWidget(_buttonExit);
+    QVBoxLayout* box = new QVBoxLayout(this);
+    box->addWidget(_infoBar);
+    box->addWidget(_list);
+    box->addLayout(buttons);
+    connect(_buttonSave, &QPushButton::clicked, this, &DialogViewZTstDataBrask::goToSave);
+    connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
+    _buttonSave->setFocus();
+    setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+void DialogViewZTstDataBrask::addValueOnList()
+{
+    for (int k = 0; k < TST_BRASK_POINTS; k++)
+        _list->addItem(QString("%1\t%2\t%3\t%4\t%5")
+                           .arg(k, 0, 10)
+                           .arg(_tst->corrente[k], 0, 10)
+                           .arg(_tst->tensione[k], 0, 10)
+                           .arg(_tst->vGateImp[k], 0, 10)
+                           .arg(_tst->vGateEff[k], 0, 10));
+}
+
+void DialogViewZTstDataBrask::goToSave()
+{
+    DialogInfoSave* form = new DialogInfoSave(this, QString());
+    if (form->exec() == QDialog::Accepted) {
+        char data[256], time[256], comment[256];
+        memcpy(data, form->data, sizeof data);
+        memcpy(time, form->time, sizeof time);
+        memcpy(comment, form->comment, sizeof comment);
+        int result =
+            saveMeasureZTstDatBrask(data, time, comment, _tst, _target, _tempStart, _tempStop);
+        // -4, the folder not entered, shows the box of success as it always has
+        if (result == -3)
+            showMessageBox(this, QMessageBox::Information, QString(), tr("Misura"),
+                           tr("Nome della misura già presente."));
+        else
+            showMessageBox(this, QMessageBox::Information, QString(), tr("Misura Salvata."));
+    }
+    delete form;
+}
+
+void DialogViewZTstDataBrask::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Down:
+        if (_list->hasFocus())
+            _buttonSave->setFocus();
+        else if (_buttonSave->hasFocus())
+            _buttonExit->setFocus();
+        else
+            _list->setFocus();
+        break;
+    case Qt::Key_Up:
+        if (_buttonExit->hasFocus())
+            _buttonSave->setFocus();
+        else if (_buttonSave->hasFocus())
+            _list->setFocus();
+        else
+            _buttonExit->setFocus();
+        break;
+    case Qt::Key_Return:
+        if (_buttonSave->hasFocus())
+            goToSave();
+        else if (_buttonExit->hasFocus())
+            reject();
+        break;
+    case Qt::Key_Escape:
+        reject();
+        break;
+    default:
+        break;
+    }
+    QWidget::keyPressEvent(event);
+}
