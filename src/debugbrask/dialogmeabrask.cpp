@@ -128,6 +128,8 @@ void DialogMeaBrask::goToExecCmdUsers()
     _labelStatus->clear();
     _buttonExec->setEnabled(true);
     _buttonExit->setEnabled(true);
+    // the disabled button lost the focus: the keys go on from where they were
+    _buttonExec->setFocus();
     QCoreApplication::processEvents();
 }
 

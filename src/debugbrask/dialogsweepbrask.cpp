@@ -155,6 +155,8 @@ void DialogSweepBrask::goToExecCmd()
     _powerDevice = nullptr;
     _buttonExec->setEnabled(true);
     _buttonExit->setEnabled(true);
+    // the disabled button lost the focus: the keys go on from where they were
+    _buttonExec->setFocus();
 }
 
 void DialogSweepBrask::goToViewData()

@@ -106,6 +106,8 @@ void DialogVoltMean::goToExecCmd()
     _labelStatus->clear();
     _buttonExec->setEnabled(true);
     _buttonExit->setEnabled(true);
+    // the disabled button lost the focus: the keys go on from where they were
+    _buttonExec->setFocus();
     QCoreApplication::processEvents();
 }
 

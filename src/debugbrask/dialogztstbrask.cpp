@@ -161,6 +161,8 @@ void DialogZTstBrask::goToExecCmd()
     _powerDevice = nullptr;
     _buttonExec->setEnabled(true);
     _buttonExit->setEnabled(true);
+    // the disabled button lost the focus: the keys go on from where they were
+    _buttonExec->setFocus();
 }
 
 void DialogZTstBrask::goToExecSweep()
@@ -193,6 +195,7 @@ void DialogZTstBrask::goToExecSweep()
     _powerDevice = nullptr;
     _buttonExec->setEnabled(true);
     _buttonExit->setEnabled(true);
+    _buttonSweep->setFocus();
 }
 
 void DialogZTstBrask::goToViewData()

@@ -4,6 +4,7 @@
 #include "data/datasetting.h"
 #include "debugbrask/debugdir.h"
 #include "support/modaldriver.h"
+#include "support/screenshot.h"
 #include "support/siminstrument.h"
 #include "support/testroot.h"
 
@@ -90,6 +91,13 @@ inline QByteArray golden(const char* name)
     if (!f.open(QIODevice::ReadOnly))
         return QByteArray("<no golden file ") + name + ">";
     return f.readAll();
+}
+
+// The screen at the instrument's size, drawn into build/screenshots.
+inline void saveScreenshotOf(QWidget* screen, const char* name)
+{
+    screen->resize(1024, 600);
+    QVERIFY(!saveScreenshot(screen, name).isEmpty());
 }
 
 } // namespace service
