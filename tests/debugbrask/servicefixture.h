@@ -63,20 +63,22 @@ inline QString label(QWidget* parent, const char* name)
 }
 
 // Fills the save form as the operator does: each line touched and typed on
-// the keyboard, then "Salva"; the box that follows is answered.
-inline void fillSaveForm(ModalDriver& driver, const QString& date, const QString& time,
-                         const QString& comment)
+// the keyboard, then "Salva"; the box that follows is answered. A driver
+// answers no window while one of its actions runs: the form, and the
+// keyboards opened from it, get drivers of their own.
+inline void fillSaveForm(ModalDriver& form, ModalDriver& keys, const QString& date,
+                         const QString& time, const QString& comment)
 {
-    driver.onNext([&driver, date, time, comment](QWidget* form) {
-        driver.typeOnKeyboard(date);
-        QTest::mouseClick(form->findChild<QLineEdit*>("Data"), Qt::LeftButton);
-        driver.typeOnKeyboard(time);
-        QTest::mouseClick(form->findChild<QLineEdit*>("Ora"), Qt::LeftButton);
-        driver.typeOnKeyboard(comment);
-        QTest::mouseClick(form->findChild<QLineEdit*>("Commento"), Qt::LeftButton);
-        driver.answerBox();
-        QTest::mouseClick(form->findChild<QPushButton*>("Salva"), Qt::LeftButton);
+    form.onNext([&keys, date, time, comment](QWidget* w) {
+        keys.typeOnKeyboard(date);
+        QTest::mouseClick(w->findChild<QLineEdit*>("Data"), Qt::LeftButton);
+        keys.typeOnKeyboard(time);
+        QTest::mouseClick(w->findChild<QLineEdit*>("Ora"), Qt::LeftButton);
+        keys.typeOnKeyboard(comment);
+        QTest::mouseClick(w->findChild<QLineEdit*>("Commento"), Qt::LeftButton);
+        QTest::mouseClick(w->findChild<QPushButton*>("Salva"), Qt::LeftButton);
     });
+    form.answerBox();
 }
 
 // The file of a service run, and the golden file it must equal.
@@ -98,6 +100,19 @@ inline void saveScreenshotOf(QWidget* screen, const char* name)
 {
     screen->resize(1024, 600);
     QVERIFY(!saveScreenshot(screen, name).isEmpty());
+}
+
+// True when the file equals its golden file byte for byte; otherwise the
+// file is left in <build>/golden-actual/<name> to look at.
+inline bool matchesGolden(const QByteArray& actual, const char* name)
+{
+    if (actual == golden(name))
+        return true;
+    QDir().mkpath(QString(KRM_BINARY_DIR) + "/golden-actual");
+    QFile f(QString(KRM_BINARY_DIR) + "/golden-actual/" + name);
+    if (f.open(QIODevice::WriteOnly))
+        f.write(actual);
+    return false;
 }
 
 } // namespace service
