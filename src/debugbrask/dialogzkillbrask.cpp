@@ -143,13 +143,15 @@ void DialogZKillBrask::goToExecCmd()
     std::memset(&_tst, 0, sizeof _tst);
 
     QCoreApplication::processEvents();
-    showTemperature(_labelTempStart, _powerDevice->acquireTempHSink(&tempStart), tempStart);
+    _pdError error = _powerDevice->acquireTempHSink(&tempStart);
+    showTemperature(_labelTempStart, error, tempStart);
     QCoreApplication::processEvents();
     reportErrorSerialPort(_powerDevice->acquireZKillBrask(&_tst, target, list, &progress));
     // the arrays hold what the board sent, also after an error
     _buttonView->setEnabled(true);
     QCoreApplication::processEvents();
-    showTemperature(_labelTempStop, _powerDevice->acquireTempHSink(&tempStop), tempStop);
+    error = _powerDevice->acquireTempHSink(&tempStop);
+    showTemperature(_labelTempStop, error, tempStop);
 
     delete _powerDevice;
     _powerDevice = nullptr;
