@@ -26,6 +26,11 @@ DialogMeaBrask::DialogMeaBrask(QWidget* parent)
     std::memset(&_infoLast, 0, sizeof _infoLast);
     _infoBar = new InfoBar(this);
     _infoBar->setTitle(tr("Mea_Brask User"));
+    // the report's fourteen rows fit the 600 pixels of the screen at 28 points
+    _infoBar->setFont(font());
+    QFont rows = font();
+    rows.setPointSize(28);
+    setFont(rows);
     QLabel* heading = new QLabel(tr("Mea_brask User"), this);
 
     QGridLayout* grid = new QGridLayout;

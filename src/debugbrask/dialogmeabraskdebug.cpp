@@ -26,6 +26,11 @@ DialogMeaBraskDebug::DialogMeaBraskDebug(QWidget* parent)
     std::memset(&_infoLast, 0, sizeof _infoLast);
     _infoBar = new InfoBar(this);
     _infoBar->setTitle(tr("Mea_Brask Debug"));
+    // the report's fourteen rows fit the 600 pixels of the screen at 28 points
+    _infoBar->setFont(font());
+    QFont rows = font();
+    rows.setPointSize(28);
+    setFont(rows);
     QLabel* heading = new QLabel(tr("Mea_brask Debug"), this);
 
     QGridLayout* grid = new QGridLayout;

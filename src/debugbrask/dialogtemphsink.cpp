@@ -28,6 +28,7 @@ DialogTempHSink::DialogTempHSink(QWidget* parent)
     line->addWidget(new QLabel(tr("Temp HSink:"), this));
     line->addWidget(_labelTemp);
     line->addWidget(new QLabel(tr("'C"), this));
+    line->addStretch();
     QVBoxLayout* box = new QVBoxLayout(this);
     box->addLayout(line);
     box->addWidget(_buttonExit);
