@@ -120,6 +120,24 @@ void DialogInfoSave::goToFinalizeParam()
     accept();
 }
 
+void DialogInfoSave::saveServiceFile(QWidget* view,
+                                     const std::function<int(char*, char*, char*)>& write)
+{
+    DialogInfoSave* form = new DialogInfoSave(view, QString());
+    if (form->exec() == QDialog::Accepted) {
+        char data[256], time[256], comment[256];
+        memcpy(data, form->data, sizeof data);
+        memcpy(time, form->time, sizeof time);
+        memcpy(comment, form->comment, sizeof comment);
+        if (write(data, time, comment) == -3)
+            showMessageBox(view, QMessageBox::Information, QString(), tr("Misura"),
+                           tr("Nome della misura già presente."));
+        else
+            showMessageBox(view, QMessageBox::Information, QString(), tr("Misura Salvata."));
+    }
+    delete form;
+}
+
 void DialogInfoSave::keyPressEvent(QKeyEvent* event)
 {
     const QList<QWidget*> chain = {_lineData,   _lineTime,    _lineComment,

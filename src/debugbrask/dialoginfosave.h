@@ -2,6 +2,7 @@
 #define KRM_DEBUGBRASK_DIALOGINFOSAVE_H
 
 #include <QDialog>
+#include <functional>
 
 class QLineEdit;
 class QPushButton;
@@ -13,6 +14,14 @@ class DialogInfoSave : public QDialog
     Q_OBJECT
 public:
     DialogInfoSave(QWidget* parent, QString defaultComment);
+
+    // The save of a service view: the form with an empty default comment
+    // and, when accepted, the writer with its date, time and comment, then
+    // the box: "Misura" with the name's text on -3, else "Misura Salvata."
+    // (also on -4, as the instrument always had it).
+    static void
+    saveServiceFile(QWidget* view,
+                    const std::function<int(char* data, char* time, char* comment)>& write);
 
     char data[256];
     char time[256];

@@ -4,7 +4,6 @@
 #include "debugbrask/datasave.h"
 #include "debugbrask/dialoginfosave.h"
 #include "toolkit/infobar.h"
-#include "toolkit/messagebox.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -66,21 +65,9 @@ void DialogViewDataMeaBrask::addValueOnList()
 
 void DialogViewDataMeaBrask::goToSave()
 {
-    DialogInfoSave* form = new DialogInfoSave(this, QString());
-    if (form->exec() == QDialog::Accepted) {
-        char data[256], time[256], comment[256];
-        memcpy(data, form->data, sizeof data);
-        memcpy(time, form->time, sizeof time);
-        memcpy(comment, form->comment, sizeof comment);
-        int result = saveMeasureMeaBrask(data, time, comment, _ramp, _info, _tempStart, _tempStop);
-        // -4, the folder not entered, shows the box of success as it always has
-        if (result == -3)
-            showMessageBox(this, QMessageBox::Information, QString(), tr("Misura"),
-                           tr("Nome della misura già presente."));
-        else
-            showMessageBox(this, QMessageBox::Information, QString(), tr("Misura Salvata."));
-    }
-    delete form;
+    DialogInfoSave::saveServiceFile(this, [this](char* data, char* time, char* comment) {
+        return saveMeasureMeaBrask(data, time, comment, _ramp, _info, _tempStart, _tempStop);
+    });
 }
 
 void DialogViewDataMeaBrask::keyPressEvent(QKeyEvent* event)

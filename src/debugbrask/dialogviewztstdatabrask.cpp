@@ -3,14 +3,12 @@
 #include "debugbrask/datasave.h"
 #include "debugbrask/dialoginfosave.h"
 #include "toolkit/infobar.h"
-#include "toolkit/messagebox.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <cstring>
 
 DialogViewZTstDataBrask::DialogViewZTstDataBrask(QWidget* parent, _tstBrask* tst, int target,
                                                  float tempStart, float tempStop)
@@ -59,22 +57,9 @@ void DialogViewZTstDataBrask::addValueOnList()
 
 void DialogViewZTstDataBrask::goToSave()
 {
-    DialogInfoSave* form = new DialogInfoSave(this, QString());
-    if (form->exec() == QDialog::Accepted) {
-        char data[256], time[256], comment[256];
-        memcpy(data, form->data, sizeof data);
-        memcpy(time, form->time, sizeof time);
-        memcpy(comment, form->comment, sizeof comment);
-        int result =
-            saveMeasureZTstDatBrask(data, time, comment, _tst, _target, _tempStart, _tempStop);
-        // -4, the folder not entered, shows the box of success as it always has
-        if (result == -3)
-            showMessageBox(this, QMessageBox::Information, QString(), tr("Misura"),
-                           tr("Nome della misura già presente."));
-        else
-            showMessageBox(this, QMessageBox::Information, QString(), tr("Misura Salvata."));
-    }
-    delete form;
+    DialogInfoSave::saveServiceFile(this, [this](char* data, char* time, char* comment) {
+        return saveMeasureZTstDatBrask(data, time, comment, _tst, _target, _tempStart, _tempStop);
+    });
 }
 
 void DialogViewZTstDataBrask::keyPressEvent(QKeyEvent* event)

@@ -214,6 +214,21 @@
         <source>Troppo lungo.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <location line="+26"/>
+        <source>Misura</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Nome della misura già presente.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Misura Salvata.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DialogMeaBrask</name>
@@ -762,7 +777,7 @@
 <context>
     <name>DialogViewDataMeaBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewdatameabrask.cpp" line="+23"/>
+        <location filename="../../../debugbrask/dialogviewdatameabrask.cpp" line="+22"/>
         <source>View Data Mea Brask Unit User</source>
         <translation type="unfinished"></translation>
     </message>
@@ -801,26 +816,11 @@
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <location line="+43"/>
-        <source>Misura</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Nome della misura già presente.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Misura Salvata.</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>DialogViewDataMeaBraskDebug</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewdatameabraskdebug.cpp" line="+24"/>
+        <location filename="../../../debugbrask/dialogviewdatameabraskdebug.cpp" line="+23"/>
         <source>View Data Mea Brask Unit Debug</source>
         <translation type="unfinished"></translation>
     </message>
@@ -869,26 +869,11 @@
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <location line="+46"/>
-        <source>Misura</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Nome della misura già presente.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Misura Salvata.</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>DialogViewSweepBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewsweepbrask.cpp" line="+22"/>
+        <location filename="../../../debugbrask/dialogviewsweepbrask.cpp" line="+20"/>
         <source>View Data Sweep Brask Unit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -927,26 +912,11 @@
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <location line="+38"/>
-        <source>Misura</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Nome della misura già presente.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Misura Salvata.</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>DialogViewZKillDataBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewzkilldatabrask.cpp" line="+23"/>
+        <location filename="../../../debugbrask/dialogviewzkilldatabrask.cpp" line="+21"/>
         <source>View Data Z Kill Brask Unit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -985,26 +955,11 @@
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <location line="+38"/>
-        <source>Misura</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Nome della misura già presente.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Misura Salvata.</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>DialogViewZTstDataBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewztstdatabrask.cpp" line="+22"/>
+        <location filename="../../../debugbrask/dialogviewztstdatabrask.cpp" line="+20"/>
         <source>View Data Z Tst Brask Unit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1041,21 +996,6 @@
     <message>
         <location line="+2"/>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+38"/>
-        <source>Misura</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Nome della misura già presente.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Misura Salvata.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
