@@ -44,7 +44,7 @@ double Board::hsink_now(double now)
         hsinkAt = now;
     }
     double dt = (now - hsinkAt) / 1000.0;
-    if (dt > 0) {
+    if (dt > 0 && !hsinkHeld) {
         hsink = ambient + (hsink - ambient) * std::exp(-dt / hsinkTau);
         hsinkAt = now;
     }
@@ -414,7 +414,8 @@ void Board::command(const std::string& text)
         }
         // The load took the module's power for about a second.
         PvFigures f = inst->pv.figures();
-        hsink = hsink_now(now) + 0.3 + (dead ? 0.0 : f.pmax / heatCapacity);
+        if (!hsinkHeld)
+            hsink = hsink_now(now) + 0.3 + (dead ? 0.0 : f.pmax / heatCapacity);
     }
     reply(text, data, status, ztest);
 }

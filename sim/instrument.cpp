@@ -701,6 +701,7 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
             if (w.size() >= 3 && number(2, &v)) {
                 board.hsink = v;
                 board.hsinkAt = nowMs();
+                board.hsinkHeld = w.size() >= 4 && w[3] == "hold";
             }
             return ok(format("%.2f", board.hsink_now(nowMs())));
         }
@@ -720,7 +721,7 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
                                                            : "window",
                              boardLine.outputPending() ? 1 : 0));
         return fail("board log [clear]|fault ...|clear <fault>|reply <escaped bytes>|status <n>|auto|"
-                    "hsink [C]|version <text>|eol <escaped>|state");
+                    "hsink [C [hold]]|version <text>|eol <escaped>|state");
     }
     if (cmd == "loader" && w.size() >= 2) {
         if (w[1] == "chip" && w.size() >= 5 && integer(2, &n)) {

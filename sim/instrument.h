@@ -97,6 +97,7 @@ public:
     std::string version = "KRM510PD FP 2.1 BRASK";
     double hsink = NAN; // NaN: starts at ambient
     double hsinkAt = 0.0;
+    bool hsinkHeld = false; // held: neither warms with a ramp nor cools
     double heatCapacity = 400.0; // J/K
     double measureMs = 1000.0;   // ramp time at real pace
     std::string eol = "\r";

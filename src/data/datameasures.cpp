@@ -14,10 +14,8 @@ const char* measureDir(_meaType type)
     return type == MEA_STRING ? DIR_DATA_MEA_STRING : DIR_DATA_MEA_PANEL;
 }
 
-char* newFileNameMeasures(const char* mdata, const char* mtime, char* target, _meaType type)
+void measureFileName(const char* mdata, const char* mtime, char* target)
 {
-    if (mdata == nullptr || mtime == nullptr || target == nullptr)
-        return nullptr;
     char joined[MEASURE_NAME_SIZE];
     snprintf(joined, sizeof joined, "%s-%s", mdata, mtime);
     strlower(joined);
@@ -28,6 +26,13 @@ char* newFileNameMeasures(const char* mdata, const char* mtime, char* target, _m
             target[n++] = *p;
     }
     target[n] = '\0';
+}
+
+char* newFileNameMeasures(const char* mdata, const char* mtime, char* target, _meaType type)
+{
+    if (mdata == nullptr || mtime == nullptr || target == nullptr)
+        return nullptr;
+    measureFileName(mdata, mtime, target);
     // The caller writes the file from here: no way back on purpose.
     if (chdir(SystemRoot::path(measureDir(type)).c_str()) != 0)
         return nullptr;

@@ -17,6 +17,9 @@ const char* measureDir(_meaType type);
 // write counts; -4 no record, date or time; -3 no name; -2 directory; -1 file.
 // The working directory is left in the measure directory.
 int saveMeasuresData(const _measure* measure, _meaType type, unsigned sn);
+// The file name of a date and a time: "%s-%s" of both, lowered, keeping only
+// the letters a to z, the digits and the minus signs (target: 256 bytes).
+void measureFileName(const char* mdata, const char* mtime, char* target);
 // Builds "yyyymmdd-hhmmss" from the date and time into target (256 bytes) and
 // stays in the measure directory; null when a text is null or the directory
 // can't be entered.

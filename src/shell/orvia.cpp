@@ -2,6 +2,7 @@
 
 #include "archive/archivepanel.h"
 #include "data/datasetting.h"
+#include "debugbrask/dialogbraskdebug.h"
 #include "device/ad7795.h"
 #include "device/monitor.h"
 #include "device/powerdevice.h"
@@ -174,6 +175,15 @@ void Orvia::goToPanelIV()
 void Orvia::goToArchivePanel()
 {
     ArchivePanel* screen = new ArchivePanel(this);
+    screen->exec();
+    delete screen;
+}
+
+// The service menu of the measuring board. No button and no key of this
+// window leads here: the service button is never shown.
+void Orvia::goToBraskDebug()
+{
+    DialogBraskDebug* screen = new DialogBraskDebug(this);
     screen->exec();
     delete screen;
 }
