@@ -7,6 +7,7 @@
 #include "support/screenshot.h"
 #include "support/siminstrument.h"
 #include "support/testroot.h"
+#include "toolkit/look.h"
 
 #include <QFile>
 #include <QLabel>

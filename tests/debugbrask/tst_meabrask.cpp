@@ -50,7 +50,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
 
     void userRunShowsTheBoardReportAndSavesItsFile()

@@ -37,7 +37,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
         if (qTranslator == nullptr) {
             qTranslator = new QTranslator(nullptr);
             QCoreApplication::installTranslator(qTranslator);

@@ -39,7 +39,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
 
     void currentScreenOpensWithoutAReading()

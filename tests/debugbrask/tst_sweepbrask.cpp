@@ -64,7 +64,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
 
     void familyScreensOpenWithTargetZeroAndTheListCombo_data()
