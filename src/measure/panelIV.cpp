@@ -17,6 +17,7 @@
 #include "measure/dialoginfo.h"
 #include "measure/dialogshutdown.h"
 #include "measure/refpanel.h"
+#include "measure/testscreen.h"
 #include "platform/clock.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
@@ -38,7 +39,8 @@
 #include <cstring>
 #include <limits>
 
-namespace {
+namespace
+{
 
 const float noValue = std::numeric_limits<float>::quiet_NaN();
 // The probe value of the automatic temperature mode, and what a temperature
@@ -46,51 +48,18 @@ const float noValue = std::numeric_limits<float>::quiet_NaN();
 const float autoTemperature = -20.0f;
 const int boardOverheated = 65; // degrees C of the heat sink
 
-const char* const blueProgressStyle =
-    "QProgressBar:horizontal {border: 1px solid gray;border-radius: 3px;background: "
-    "white;padding: 1px;text-align: center;}QProgressBar::chunk:horizontal {background: "
-    "qlineargradient(x1: 0, y1: 0.5, x2: 1, y2: 0.5, stop: 0 blue, stop: 1 white);}";
-
-const Qt::WindowFlags boxFlags = Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint;
-
-const char* const batteryPicture[] = {
-    ":/icon/vbattery-full.png", ":/icon/vbattery-75.png",    ":/icon/vbattery-50.png",
-    ":/icon/vbattery-25.png",   ":/icon/vbattery-15.png",    ":/icon/vbattery-alert.png",
-    ":/icon/vbattery-empty.png"};
-
-QPushButton* barButton(const QString& text, const char* name, bool flat)
-{
-    QPushButton* button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setFlat(flat);
-    button->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum);
-    return button;
-}
-
-void copyName(char* target, const char* source)
-{
-    std::memset(target, 0, 256);
-    if (source != nullptr)
-        std::strncpy(target, source, 255);
-}
-
-void showConversion(void* context, int k)
-{
-    static_cast<QProgressDialog*>(context)->setValue(k);
-}
-
 } // namespace
 
 PanelIV::PanelIV(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowTitleHint), _result(0),
       _degradoEnabled(false), _degradoYears(0), _degradoPercent(0), _temperature(noValue),
       _temperatureProbe(noValue), _irradiance(noValue), _irradianceProbe(noValue), _pmax(0),
-      _vmpp(0), _impp(0), _pmaxStc(noValue), _vmppStc(noValue), _imppStc(noValue),
-      _isc(noValue), _voc(noValue), _iscStc(noValue), _vocStc(noValue), _deltaPmax(noValue),
-      _measureDone(false), _powerRestored(false), _rsDone(false), _rs(0), _rsI1(0), _rsI2(0),
-      _stcValid(false), _temperatureValid(false), _irradianceValid(false),
-      _referenceChosen(false), _curveValid(false), _powerOpcShown(false),
-      _powerStcShown(false), _powerDevice(nullptr), _shutDownOpen(false)
+      _vmpp(0), _impp(0), _pmaxStc(noValue), _vmppStc(noValue), _imppStc(noValue), _isc(noValue),
+      _voc(noValue), _iscStc(noValue), _vocStc(noValue), _deltaPmax(noValue), _measureDone(false),
+      _powerRestored(false), _rsDone(false), _rs(0), _rsI1(0), _rsI2(0), _stcValid(false),
+      _temperatureValid(false), _irradianceValid(false), _referenceChosen(false),
+      _curveValid(false), _powerOpcShown(false), _powerStcShown(false), _powerDevice(nullptr),
+      _shutDownOpen(false)
 {
     setObjectName("PanelIV");
     readConfigFile(&_config);
@@ -198,9 +167,9 @@ PanelIV::~PanelIV()
 void PanelIV::measurePanel()
 {
     QMessageBox box(this);
-    QProgressDialog progress(tr("Misura Modulo..."), QString(), 0, 512, this, boxFlags);
+    QProgressDialog progress(tr("Misura Modulo..."), QString(), 0, 512, this, messageBoxFlags);
     progress.setObjectName("MeasureProgress");
-    progress.setStyleSheet(blueProgressStyle);
+    progress.setStyleSheet(progressStyle("blue"));
 
     _temperatureProbe = noValue;
     _irradianceProbe = noValue;
@@ -255,8 +224,8 @@ void PanelIV::measurePanel()
 
     measuredEndPoints(&_infoLast, &_config, &_isc, &_voc);
     _pmax = 0;
-    convertRamp(&_rawRamp, &_config, &_rampExact, &_ramp, &_pmax, &_vmpp, &_impp,
-                showConversion, &progress);
+    convertRamp(&_rawRamp, &_config, &_rampExact, &_ramp, &_pmax, &_vmpp, &_impp, showConversion,
+                &progress);
 
     _buttonStart->setChecked(false);
     _measureDone = true;
@@ -280,7 +249,7 @@ void PanelIV::measurePanel()
 void PanelIV::failMeasure(QMessageBox* box, _pdError error)
 {
     _buttonStart->setChecked(false);
-    box->setWindowFlags(boxFlags);
+    box->setWindowFlags(messageBoxFlags);
     box->setIcon(QMessageBox::Warning);
     box->setWindowTitle(tr("Power Device"));
     box->setStandardButtons(QMessageBox::Ok);
@@ -344,10 +313,10 @@ void PanelIV::failMeasure(QMessageBox* box, _pdError error)
 int PanelIV::getProbeVar(bool showProgress)
 {
     QProgressDialog progress(tr("Acquisizione Misure Ambiente"), QString(), 0, 10, this,
-                             boxFlags);
+                             messageBoxFlags);
     progress.setObjectName("EnvironmentProgress");
     if (showProgress) {
-        progress.setStyleSheet(blueProgressStyle);
+        progress.setStyleSheet(progressStyle("blue"));
         progress.setMinimumDuration(0);
     }
     QMessageBox box(this);
@@ -376,7 +345,7 @@ int PanelIV::getProbeVar(bool showProgress)
         }
         RemoteUnit* unit = new RemoteUnit(_config.remote, 10.54f);
         bool connected = false;
-        for (int failures = 0; failures < 4 && !connected; ) {
+        for (int failures = 0; failures < 4 && !connected;) {
             connected = unit->connect() != 0;
             if (!connected) {
                 unit->disconnect();
@@ -406,7 +375,7 @@ int PanelIV::getProbeVar(bool showProgress)
         delete unit;
     }
 
-    box.setWindowFlags(boxFlags);
+    box.setWindowFlags(messageBoxFlags);
     box.setIcon(QMessageBox::Warning);
     box.setStandardButtons(QMessageBox::Ok);
     box.setDefaultButton(QMessageBox::Ok);
@@ -636,8 +605,8 @@ void PanelIV::goToPanelMea()
 
 void PanelIV::goToSavePanelAcquired()
 {
-    QMessageBox* box = newMessageBox(this, QMessageBox::Information, QString(),
-                                     tr("Misura Salvata."));
+    QMessageBox* box =
+        newMessageBox(this, QMessageBox::Information, QString(), tr("Misura Salvata."));
     DialogInfo* dialog = new DialogInfo(this, DLG_PANEL, _comment);
     if (dialog->exec() != QDialog::Accepted) {
         delete dialog;
@@ -714,13 +683,9 @@ void PanelIV::displayClock()
 
 void PanelIV::displayPowerSupply()
 {
-    if (isPowerSupply()) {
-        _labelSupply->setPixmap(QPixmap(":/icon/vac-adapter.png"));
-        return;
-    }
-    const int level = batteryLevel();
-    if (level >= 0 && level <= 6) {
-        _labelSupply->setPixmap(QPixmap(batteryPicture[level]));
+    const char* picture = supplyPicture(isPowerSupply(), isPowerSupply() ? 0 : batteryLevel());
+    if (picture != nullptr) {
+        _labelSupply->setPixmap(QPixmap(picture));
         return;
     }
     // The timer goes on inside the dialog's loop: one dialog is enough.
@@ -768,28 +733,9 @@ void PanelIV::keyPressEvent(QKeyEvent* event)
             goToSavePanelAcquired();
         break;
     case Qt::Key_Down:
-        if (focused(_buttonStart))
-            _buttonReference->setFocus();
-        else if (focused(_buttonReference))
-            _buttonMeasures->setFocus();
-        else if (focused(_buttonMeasures))
-            (_buttonSave->isEnabled() ? _buttonSave : _buttonExit)->setFocus();
-        else if (focused(_buttonSave))
-            _buttonExit->setFocus();
-        else if (focused(_buttonExit))
-            _buttonStart->setFocus();
-        break;
     case Qt::Key_Up:
-        if (focused(_buttonStart))
-            _buttonExit->setFocus();
-        else if (focused(_buttonExit))
-            (_buttonSave->isEnabled() ? _buttonSave : _buttonMeasures)->setFocus();
-        else if (focused(_buttonSave))
-            _buttonMeasures->setFocus();
-        else if (focused(_buttonMeasures))
-            _buttonReference->setFocus();
-        else if (focused(_buttonReference))
-            _buttonStart->setFocus();
+        walkBar(event->key(), focusWidget(), _buttonStart, _buttonReference, _buttonMeasures,
+                _buttonSave, _buttonExit);
         break;
     default:
         break;
