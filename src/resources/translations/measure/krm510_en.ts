@@ -208,7 +208,7 @@
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+97"/>
+        <location filename="../../../measure/panelIV.cpp" line="+66"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -458,6 +458,212 @@ Repeat.</translation>
         <location line="+25"/>
         <source>Vuoto</source>
         <translation>Empty</translation>
+    </message>
+</context>
+<context>
+    <name>StringIV</name>
+    <message>
+        <location filename="../../../measure/stringIV.cpp" line="+68"/>
+        <source>String IV</source>
+        <translation>String IV</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Confronto</source>
+        <translation>Comparison</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure</source>
+        <translation>Measured</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Salva</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Stringa</source>
+        <translation>String</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza OPC</source>
+        <translation>OPC power</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza STC</source>
+        <translation>STC power</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Potenza</source>
+        <translation>Power</translation>
+    </message>
+    <message>
+        <location line="+54"/>
+        <source>Misura Stringa...</source>
+        <translation>String measure...</translation>
+    </message>
+    <message>
+        <location line="+60"/>
+        <source>Generazione Grafico...</source>
+        <translation>Drawing the graph...</translation>
+    </message>
+    <message>
+        <location line="+55"/>
+        <source>Power Device</source>
+        <translation>Power Device</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Tensione Eccessiva.</source>
+        <translation>Excessive voltage value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente Eccessiva.</source>
+        <translation>Excessive current value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Potenza Eccessiva.</source>
+        <translation>Excessive power value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Energia Eccessiva.</source>
+        <translation>Excessive energy value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Polarità Inversa.</source>
+        <translation>Reverse polarity.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Negativo Flottante.</source>
+        <translation>Floating negative.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Tensione troppo bassa.</source>
+        <translation>Voltage too low.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente troppo bassa.</source>
+        <translation>Current too low.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Attendere raffreddamento...
+Strumento surriscaldato.
+Attendere prima di riprendere i test.</source>
+        <translation>Wait for cooling...
+Instrument overheated.
+Wait before resuming the tests.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Eseguito ripristino modulo potenza.</source>
+        <translation>Power module restore done.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Problema di connessione al Power Device.</source>
+        <translation>Problem of wiring to the power device.</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <location line="+49"/>
+        <source>Acquisizione Misure Ambiente</source>
+        <translation>Environment measures</translation>
+    </message>
+    <message>
+        <location line="-23"/>
+        <source>Connessione Unità Remota</source>
+        <translation>Remote unit connection</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Activating link...</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Unità Remota</source>
+        <translation>Remote Unit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Non connessa o assente.</source>
+        <translation>Not connected or missing.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <location line="+3"/>
+        <source>Misure Ambiente</source>
+        <translation>Environment</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Temperatura non rilevata.</source>
+        <translation>Temperature not detected.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Irradiazione non rilevata.</source>
+        <translation>Solar radiation value not detected.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Irraggiamento insufficiente (&lt; </source>
+        <translation>Insufficient irradiance (&lt; </translation>
+    </message>
+    <message>
+        <location line="+53"/>
+        <source>Delta Irraggiamento Elevato</source>
+        <translation>Highly variable solar radiation</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Valori STC non disponibili.
+Ripetere.</source>
+        <translation>STC values are not available.
+Repeat.</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>Temperatura fuori limite.</source>
+        <translation>Outside temperature limit.</translation>
+    </message>
+    <message>
+        <location line="+129"/>
+        <source>Misura Salvata.</source>
+        <translation>Saved measure.</translation>
+    </message>
+    <message>
+        <location line="+55"/>
+        <source>Misura</source>
+        <translation>Measure</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Nome della misura già presente.</source>
+        <translation>The measure name already exists.</translation>
     </message>
 </context>
 </TS>
