@@ -191,10 +191,11 @@ void StringIV::runMeasure()
     _temperatureValid = false;
     _irradianceValid = false;
 
-    if (getProbeVar(true) != 0)
-        return;
-    // asked at every start: the operator confirms the count each time
+    // asked at every start, before any reading: the operator confirms the
+    // count each time, and a count left unconfirmed ends the start silently
     if (!getNumberOfPanel())
+        return;
+    if (getProbeVar(true) != 0)
         return;
 
     const float t1 = _temperatureProbe;

@@ -12,7 +12,7 @@
 // What tells the module screen and the string screen apart for a test that
 // runs one body on both: the label of the ramp's progress dialog, the entry of
 // the measures menu, and the count of modules that the string screen asks at
-// every start, after the first reading has passed.
+// every start, before the first reading.
 template <class S> struct Kind;
 
 template <> struct Kind<PanelIV> {

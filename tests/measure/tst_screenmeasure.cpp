@@ -148,6 +148,7 @@ template <class S> void openTemperatureProbe()
     QVERIFY(sim.command("set pt100 open"));
     QVERIFY(sim.command("board log clear"));
     ModalDriver driver;
+    Kind<S>::count(driver);
     driver.answerBox();
     S panel(nullptr);
     panel.show();
@@ -168,6 +169,7 @@ template <class S> void bothMissing()
     QVERIFY(sim.command("set pt100 open"));
     QVERIFY(sim.forceAdc("pyrano", 0));
     ModalDriver driver;
+    Kind<S>::count(driver);
     driver.answerBox();
     driver.answerBox();
     S panel(nullptr);
@@ -188,6 +190,7 @@ template <class S> void missingIrradiance()
     QVERIFY(world(sim, 850, 45));
     QVERIFY(sim.forceAdc("pyrano", 0));
     ModalDriver driver;
+    Kind<S>::count(driver);
     driver.answerBox();
     S panel(nullptr);
     panel.show();
@@ -219,6 +222,7 @@ template <class S> void irrminBoundary()
     QCOMPARE(panel._irradiance, g);
 
     panel._config.irrmin = std::nextafter(g, 2000.0f);
+    Kind<S>::count(driver);
     driver.answerBox();
     touch(&panel, "Start");
     QCOMPARE(driver.boxes.size(), 1);
@@ -242,6 +246,7 @@ template <class S> void refusedStart()
     touch(&panel, "Start");
     const QVector<QPointF> curve = panel.plotter()->curves().value(0);
     QVERIFY(sim.setIrradiance(300));
+    Kind<S>::count(driver);
     driver.answerBox();
     touch(&panel, "Start");
     QCOMPARE(driver.boxes.size(), 1);
@@ -517,6 +522,52 @@ template <class S> void englishBoardFailure()
     loadTranslator(qTranslator, LANG_IT);
 }
 
+template <class S> void fourFailedConnections()
+{
+    TestRoot root(0.01);
+    SimInstrument sim(root);
+    configure(root, [](_configParam& c) { c.remote = LINK_USB; });
+    QVERIFY(world(sim, 820, 40));
+    QVERIFY(sim.command("remote link none"));
+    ModalDriver driver;
+    Kind<S>::count(driver);
+    driver.answerBox();
+    driver.answerBox();
+    S panel(nullptr);
+    panel.show();
+    touch(&panel, "Start");
+    QCOMPARE(driver.boxes.size(), 2);
+    QCOMPARE(driver.boxes[0].title, QString("Unità Remota"));
+    QCOMPARE(driver.boxes[0].text, QString("Non connessa o assente."));
+    QCOMPARE(driver.boxes[0].icon, QMessageBox::Critical);
+    QCOMPARE(driver.boxes[1].title, QString("Misure Ambiente"));
+    QCOMPARE(driver.boxes[1].text, QString("Temperatura non rilevata."));
+    QCOMPARE(driver.boxes[1].icon, QMessageBox::Warning);
+    QVERIFY(!panel._measureDone);
+    QVERIFY(!sim.boardCommands().join(' ').contains("mea_brask")); // no ramp
+}
+
+template <class S> void remoteOnUsb()
+{
+    TestRoot root(0.01);
+    SimInstrument sim(root);
+    configure(root, [](_configParam& c) { c.remote = LINK_USB; });
+    QVERIFY(world(sim, 820, 40));
+    QVERIFY(sim.command("remote gen 2"));
+    QVERIFY(sim.command("remote link usb 0"));
+    ModalDriver driver;
+    Kind<S>::count(driver);
+    S panel(nullptr);
+    panel.show();
+    touch(&panel, "Start");
+    QVERIFY(panel._measureDone);
+    QVERIFY2(std::fabs(panel._irradiance - 820) < 2.0f,
+             qPrintable(QString::number(panel._irradiance)));
+    QVERIFY2(std::fabs(panel._temperature - 40) < 0.5f,
+             qPrintable(QString::number(panel._temperature)));
+    QVERIFY2(sim.call("remote log").contains("VERSION"), sim.call("remote log").constData());
+}
+
 template <class S> void clockBySetting()
 {
     QFETCH(int, mode);
@@ -662,6 +713,15 @@ private slots:
     // ---- The measures menu
     void twoGoodMeasuresLeaveTwoExtraSeparators_data() { screens(); }
     void twoGoodMeasuresLeaveTwoExtraSeparators() { ON_THE_SCREEN(twoGoodMeasures); }
+
+    // ---- The remote unit
+    void fourFailedConnectionsGiveTheRemoteUnitBoxThenTheTemperatureBox_data() { screens(); }
+    void fourFailedConnectionsGiveTheRemoteUnitBoxThenTheTemperatureBox()
+    {
+        ON_THE_SCREEN(fourFailedConnections);
+    }
+    void remoteUnitOnUsbGivesTheEnvironmentOfTheMeasure_data() { screens(); }
+    void remoteUnitOnUsbGivesTheEnvironmentOfTheMeasure() { ON_THE_SCREEN(remoteOnUsb); }
 
     // ---- Language
     void boardFailureShowsItsEnglishTextWithLanguage1_data() { screens(); }
