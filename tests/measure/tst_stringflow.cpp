@@ -8,6 +8,7 @@
 
 #include <QComboBox>
 #include <QDir>
+#include <QLabel>
 #include <QListWidget>
 #include <cmath>
 
@@ -148,6 +149,76 @@ private slots:
         QApplication::setFont(instrumentFont());
     }
 
+    // ---- The menu's "Stringa"
+    void stringButtonShowsTheStringWiringThenTheStringScreen()
+    {
+        TestRoot root(0.01);
+        SimInstrument sim(root);
+        configure(root);
+        ModalDriver driver;
+        QStringList seen;
+        QImage picture;
+        driver.onNext([&](QWidget* w) {
+            seen << w->metaObject()->className();
+            for (QLabel* l : w->findChildren<QLabel*>())
+                if (!l->pixmap().isNull())
+                    picture = l->pixmap().toImage();
+            touch(w, "Continua");
+        });
+        driver.onNext([&](QWidget* w) {
+            seen << w->metaObject()->className();
+            QTest::keyClick(w, Qt::Key_Escape);
+        });
+        Orvia menu;
+        menu.show();
+        touch(&menu, "Stringa");
+        QCOMPARE(seen, (QStringList{"DialogCollegamenti", "StringIV"}));
+        QCOMPARE(picture, QPixmap(":/image/schema_stringhe.png").toImage());
+        QVERIFY(menu.findChild<StringIV*>() == nullptr); // deleted after exec
+    }
+    void wiringPictureLeftOpensNoStringScreen()
+    {
+        TestRoot root(0.01);
+        SimInstrument sim(root);
+        configure(root);
+        ModalDriver driver;
+        QStringList seen;
+        driver.onNext([&](QWidget* w) {
+            seen << w->metaObject()->className();
+            QTest::keyClick(w, Qt::Key_Escape);
+        });
+        Orvia menu;
+        menu.show();
+        touch(&menu, "Stringa");
+        QTest::qWait(50);
+        QCOMPARE(seen, QStringList{"DialogCollegamenti"});
+        QVERIFY(menu.findChild<StringIV*>() == nullptr);
+    }
+    void returnOnStringaOpensTheStringTest()
+    {
+        TestRoot root(0.01);
+        SimInstrument sim(root);
+        configure(root);
+        ModalDriver driver;
+        QStringList seen;
+        driver.onNext([&](QWidget* w) {
+            seen << w->metaObject()->className();
+            QTest::keyClick(w, Qt::Key_Return);
+        });
+        driver.onNext([&](QWidget* w) {
+            seen << w->metaObject()->className();
+            QTest::keyClick(w, Qt::Key_Escape);
+        });
+        Orvia menu;
+        menu.show();
+        menu.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&menu));
+        menu.findChild<QPushButton*>("Stringa")->setFocus();
+        QTest::keyClick(&menu, Qt::Key_Return);
+        QCOMPARE(seen, (QStringList{"DialogCollegamenti", "StringIV"}));
+    }
+
+    // ---- Whole tests
     void stringOf12FromTheMenuToTheSavedFile()
     {
         TestRoot root(0.01);
