@@ -67,6 +67,8 @@ private slots:
         QCOMPARE(screen.objectName(), QString("StringIV"));
         QCOMPARE(screen.plotter()->title(), QString("String IV"));
         QCOMPARE(screen._numberOfPanel, 2);
+        QVERIFY(QTest::qWaitForWindowExposed(&screen));
+        QTest::qWait(50); // maximised by the window system
         saveScreenshot(&screen, "string_title_before_start");
         // no model chosen: the title ends after " * "
         enterCount(driver, 4);
@@ -238,6 +240,8 @@ private slots:
             style = p->styleSheet();
             axis = screen->plotter()->settings().maxX;
             saveScreenshot(screen, "string_during_ramp");
+            p->setValue(40); // the bar part way, as the board reports it
+            saveScreenshot(p, "string_during_ramp_progress");
         });
         StringIV s(nullptr);
         screen = &s;
