@@ -441,45 +441,11 @@ int StringIV::getProbeVar(bool showProgress)
     return 1;
 }
 
-// Five rounds of temperature and irradiance; the last good value of each stands.
 void StringIV::readProbes(int rounds, int first, bool showProgress, QProgressDialog* progress,
                           RemoteUnit* unit)
 {
-    for (int round = first; round < first + rounds; round++) {
-        char ok = 0;
-        float temperature = noValue;
-        switch (_config.tprobe) {
-        case PROBE_AUTO:
-            temperature = autoTemperature;
-            ok = 1;
-            break;
-        case PROBE_MANUAL:
-            temperature = _config.utemp;
-            ok = 1;
-            break;
-        case PROBE_MODULE:
-            temperature = unit != nullptr ? unit->getTempModulo(&ok)
-                                          : temperatureAcquire(&ok, _config.tmmod, _config.tomod);
-            break;
-        default:
-            temperature = unit != nullptr ? unit->getTempAmbiente(&ok)
-                                          : temperatureAcquire(&ok, _config.tmenv, _config.toenv);
-            break;
-        }
-        if (ok) {
-            _temperatureProbe = temperature;
-            _temperatureValid = true;
-        }
-        float irradiance = unit != nullptr ? unit->getPirano(&ok) : irradiationAcquire(&ok);
-        if (ok) {
-            _irradianceProbe = irradiance;
-            _irradianceValid = true;
-        }
-        if (unit == nullptr) // the remote unit's own exchange takes its time
-            Clock::usleep(500);
-        if (showProgress)
-            progress->setValue(round);
-    }
+    readProbeRounds(&_config, rounds, first, showProgress ? progress : nullptr, unit,
+                    &_temperatureProbe, &_temperatureValid, &_irradianceProbe, &_irradianceValid);
 }
 
 bool StringIV::getControlIrr(float before, float after)
@@ -501,13 +467,9 @@ void StringIV::drawCurve(int id, const _ramp_iv* axes, const _ramp_iv* curve)
     float vmax = 0;
     float imax = 0;
     curveMaxima(axes, &vmax, &imax);
-    QVector<QPointF> points;
-    points.reserve(RAMP_POINTS);
-    for (int k = 0; k < RAMP_POINTS; k++)
-        points.append(QPointF(curve->tensione[k], curve->corrente[k]));
     _plotter->setAxisX(0, stringVScale(vmax));
     _plotter->setAxisY(0, stringIScale(imax));
-    _plotter->setCurveData(id, points);
+    _plotter->setCurveData(id, curvePoints(curve));
 }
 
 void StringIV::checkPanelOk()
@@ -597,14 +559,8 @@ void StringIV::togglePowerCurve(bool stc)
         return;
     }
     const _ramp_iv* source = stc ? &_rampStcSmooth : &_rampSmooth;
-    float y[RAMP_POINTS];
-    powerCurve(source, y);
-    QVector<QPointF> points;
-    points.reserve(RAMP_POINTS);
-    for (int k = 0; k < RAMP_POINTS; k++)
-        points.append(QPointF(source->tensione[k], y[k]));
     _plotter->pmaxLabel = stc ? _pmaxStc : _pmax;
-    _plotter->setCurveData(2, points);
+    _plotter->setCurveData(2, powerPoints(source));
     own = true;
     other = false;
 }

@@ -1,5 +1,10 @@
 #include "measure/testscreen.h"
 
+#include "device/ad7795.h"
+#include "device/remoteunit.h"
+#include "math/utility.h"
+#include "platform/clock.h"
+
 #include <QProgressDialog>
 #include <QPushButton>
 #include <cstring>
@@ -73,4 +78,65 @@ void walkBar(int key, QWidget* focus, QPushButton* start, QPushButton* reference
         else if (focus == reference)
             start->setFocus();
     }
+}
+
+void readProbeRounds(const _configParam* config, int rounds, int first, QProgressDialog* progress,
+                     RemoteUnit* unit, float* temperature, bool* temperatureValid,
+                     float* irradiance, bool* irradianceValid)
+{
+    for (int round = first; round < first + rounds; round++) {
+        char ok = 0;
+        float t = 0;
+        switch (config->tprobe) {
+        case PROBE_AUTO:
+            t = -20.0f;
+            ok = 1;
+            break;
+        case PROBE_MANUAL:
+            t = config->utemp;
+            ok = 1;
+            break;
+        case PROBE_MODULE:
+            t = unit != nullptr ? unit->getTempModulo(&ok)
+                                : temperatureAcquire(&ok, config->tmmod, config->tomod);
+            break;
+        default:
+            t = unit != nullptr ? unit->getTempAmbiente(&ok)
+                                : temperatureAcquire(&ok, config->tmenv, config->toenv);
+            break;
+        }
+        if (ok) {
+            *temperature = t;
+            *temperatureValid = true;
+        }
+        const float g = unit != nullptr ? unit->getPirano(&ok) : irradiationAcquire(&ok);
+        if (ok) {
+            *irradiance = g;
+            *irradianceValid = true;
+        }
+        if (unit == nullptr) // the remote unit's own exchange takes its time
+            Clock::usleep(500);
+        if (progress != nullptr)
+            progress->setValue(round);
+    }
+}
+
+QVector<QPointF> curvePoints(const _ramp_iv* curve)
+{
+    QVector<QPointF> points;
+    points.reserve(RAMP_POINTS);
+    for (int k = 0; k < RAMP_POINTS; k++)
+        points.append(QPointF(curve->tensione[k], curve->corrente[k]));
+    return points;
+}
+
+QVector<QPointF> powerPoints(const _ramp_iv* curve)
+{
+    float y[RAMP_POINTS];
+    powerCurve(curve, y);
+    QVector<QPointF> points;
+    points.reserve(RAMP_POINTS);
+    for (int k = 0; k < RAMP_POINTS; k++)
+        points.append(QPointF(curve->tensione[k], y[k]));
+    return points;
 }

@@ -33,7 +33,8 @@ template <> struct Kind<StringIV> {
     }
 };
 
-namespace screenkinds {
+namespace screenkinds
+{
 
 // The count dialog: the number typed on the key pad, then "Applica".
 inline void enterCount(ModalDriver& driver, int number)
@@ -70,13 +71,13 @@ inline void screens()
 } // namespace screenkinds
 
 // Runs the body template f<PanelIV> or f<StringIV> by the row's "screen".
-#define ON_THE_SCREEN(f)                                                                       \
-    do {                                                                                       \
-        QFETCH(QString, screen);                                                               \
-        if (screen == "StringIV")                                                              \
-            f<StringIV>();                                                                     \
-        else                                                                                   \
-            f<PanelIV>();                                                                      \
+#define ON_THE_SCREEN(f)                                                                           \
+    do {                                                                                           \
+        QFETCH(QString, screen);                                                                   \
+        if (screen == "StringIV")                                                                  \
+            f<StringIV>();                                                                         \
+        else                                                                                       \
+            f<PanelIV>();                                                                          \
     } while (0)
 
 #endif

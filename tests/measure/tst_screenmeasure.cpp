@@ -19,7 +19,8 @@ using namespace screenkinds;
 // the conversion of the counts, the irradiance check and every failure,
 // driven by touches on the screen's buttons as the operator makes them. Each
 // body runs on both screens, so that a slip in one of them shows.
-namespace {
+namespace
+{
 
 const char* coolingText()
 {
@@ -50,8 +51,7 @@ template <class S> void goodMeasure()
     QVERIFY(panel._curveValid);
     QVERIFY(panel._stcValid);
     QVERIFY(child<QPushButton>(&panel, "Salva")->isEnabled());
-    QCOMPARE(entries(measuresMenu(&panel)),
-             (QStringList{"-", Kind<S>::dataEntry, "-", "Potenza"}));
+    QCOMPARE(entries(measuresMenu(&panel)), (QStringList{"-", Kind<S>::dataEntry, "-", "Potenza"}));
     QCOMPARE(panel.plotter()->curves().value(0).size(), RAMP_POINTS);
     QVERIFY(!panel.plotter()->curves().contains(1));
     // the curve begins on Voc and ends on Isc
@@ -227,9 +227,9 @@ template <class S> void irrminBoundary()
     touch(&panel, "Start");
     QCOMPARE(driver.boxes.size(), 1);
     QCOMPARE(driver.boxes[0].title, QString());
-    QCOMPARE(driver.boxes[0].text,
-             "Irraggiamento insufficiente (< " +
-                 QString::number(double(panel._config.irrmin), 'f', 2) + " W/m²)");
+    QCOMPARE(driver.boxes[0].text, "Irraggiamento insufficiente (< " +
+                                       QString::number(double(panel._config.irrmin), 'f', 2) +
+                                       " W/m²)");
     QCOMPARE(driver.boxes[0].icon, QMessageBox::Warning);
 }
 
@@ -253,8 +253,7 @@ template <class S> void refusedStart()
     QCOMPARE(panel.plotter()->curves().value(0), curve);
     QVERIFY(panel._measureDone);
     QVERIFY(child<QPushButton>(&panel, "Salva")->isEnabled());
-    QCOMPARE(entries(measuresMenu(&panel)),
-             (QStringList{"-", Kind<S>::dataEntry, "-", "Potenza"}));
+    QCOMPARE(entries(measuresMenu(&panel)), (QStringList{"-", Kind<S>::dataEntry, "-", "Potenza"}));
 }
 
 template <class S> void secondReadingDecidesNothing()

@@ -54,9 +54,9 @@ class TestStringFlow : public QObject
                 w->findChild<QComboBox*>("type")->setCurrentIndex(1);
                 archive::enter(form, w, "model", "SIM 250");
                 const _panelFeature f = simulatedSheet(3);
-                const char* fields[] = {"pmax", "noct", "vmpp", "impp", "voc", "isc",
+                const char* fields[] = {"pmax", "noct", "vmpp",  "impp",  "voc",  "isc",
                                         "kisc", "kvoc", "kpmax", "tollm", "tollp"};
-                const float values[] = {f.pmax, f.noct, f.vmpp, f.impp,  f.voc,  f.isc,
+                const float values[] = {f.pmax, f.noct, f.vmpp,  f.impp,   f.voc,  f.isc,
                                         f.kisc, f.kvoc, f.kpmax, -f.tollm, f.tollp};
                 for (int i = 0; i < 11; i++)
                     archive::enter(form, w, fields[i], QString::number(double(values[i])));
@@ -250,7 +250,8 @@ private slots:
         std::memset(&m, 0, sizeof m);
         QCOMPARE(readMeasureData(out.file.toLatin1().constData(), &m, MEA_STRING), 511);
         QCOMPARE(m.mnpan, 12);
-        QVERIFY2(std::fabs(m.misc - isc) <= 0.02, qPrintable(QString("%1 %2").arg(m.misc).arg(isc)));
+        QVERIFY2(std::fabs(m.misc - isc) <= 0.02,
+                 qPrintable(QString("%1 %2").arg(m.misc).arg(isc)));
         QVERIFY2(std::fabs(m.mvoc - voc) <= 0.005 * voc,
                  qPrintable(QString("%1 %2").arg(m.mvoc).arg(voc)));
         QVERIFY2(std::fabs(m.mpmax - pmax) <= 0.01 * pmax,

@@ -340,9 +340,8 @@ private slots:
         touch(&screen, "Start");
         touch(&screen, "Confronto");
         QCOMPARE(driver.pending(), 0);
-        QCOMPARE(screen._temperature,
-                 calcola_temperatura(PROBE_AUTO, 4, -20.0f, screen._irradiance, screen._voc,
-                                     &screen._reference));
+        QCOMPARE(screen._temperature, calcola_temperatura(PROBE_AUTO, 4, -20.0f, screen._irradiance,
+                                                          screen._voc, &screen._reference));
         // near the cells' 40 degrees C; the Voc of four modules taken for one
         // would be far out of limits
         QVERIFY2(std::fabs(screen._temperature - 40) < 10,
