@@ -39,8 +39,7 @@
 #include <cstring>
 #include <limits>
 
-namespace
-{
+namespace {
 
 const float noValue = std::numeric_limits<float>::quiet_NaN();
 // The probe value of the automatic temperature mode, and what a temperature
@@ -54,12 +53,12 @@ PanelIV::PanelIV(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowTitleHint), _result(0),
       _degradoEnabled(false), _degradoYears(0), _degradoPercent(0), _temperature(noValue),
       _temperatureProbe(noValue), _irradiance(noValue), _irradianceProbe(noValue), _pmax(0),
-      _vmpp(0), _impp(0), _pmaxStc(noValue), _vmppStc(noValue), _imppStc(noValue), _isc(noValue),
-      _voc(noValue), _iscStc(noValue), _vocStc(noValue), _deltaPmax(noValue), _measureDone(false),
-      _powerRestored(false), _rsDone(false), _rs(0), _rsI1(0), _rsI2(0), _stcValid(false),
-      _temperatureValid(false), _irradianceValid(false), _referenceChosen(false),
-      _curveValid(false), _powerOpcShown(false), _powerStcShown(false), _powerDevice(nullptr),
-      _shutDownOpen(false)
+      _vmpp(0), _impp(0), _pmaxStc(noValue), _vmppStc(noValue), _imppStc(noValue),
+      _isc(noValue), _voc(noValue), _iscStc(noValue), _vocStc(noValue), _deltaPmax(noValue),
+      _measureDone(false), _powerRestored(false), _rsDone(false), _rs(0), _rsI1(0), _rsI2(0),
+      _stcValid(false), _temperatureValid(false), _irradianceValid(false),
+      _referenceChosen(false), _curveValid(false), _powerOpcShown(false),
+      _powerStcShown(false), _powerDevice(nullptr), _shutDownOpen(false)
 {
     setObjectName("PanelIV");
     readConfigFile(&_config);
@@ -224,8 +223,8 @@ void PanelIV::measurePanel()
 
     measuredEndPoints(&_infoLast, &_config, &_isc, &_voc);
     _pmax = 0;
-    convertRamp(&_rawRamp, &_config, &_rampExact, &_ramp, &_pmax, &_vmpp, &_impp, showConversion,
-                &progress);
+    convertRamp(&_rawRamp, &_config, &_rampExact, &_ramp, &_pmax, &_vmpp, &_impp,
+                showConversion, &progress);
 
     _buttonStart->setChecked(false);
     _measureDone = true;
@@ -345,7 +344,7 @@ int PanelIV::getProbeVar(bool showProgress)
         }
         RemoteUnit* unit = new RemoteUnit(_config.remote, 10.54f);
         bool connected = false;
-        for (int failures = 0; failures < 4 && !connected;) {
+        for (int failures = 0; failures < 4 && !connected; ) {
             connected = unit->connect() != 0;
             if (!connected) {
                 unit->disconnect();
@@ -396,6 +395,7 @@ int PanelIV::getProbeVar(bool showProgress)
     return 1;
 }
 
+// Five rounds of temperature and irradiance; the last good value of each stands.
 void PanelIV::readProbes(int rounds, int first, bool showProgress, QProgressDialog* progress,
                          RemoteUnit* unit)
 {
@@ -561,8 +561,8 @@ void PanelIV::goToPanelMea()
 
 void PanelIV::goToSavePanelAcquired()
 {
-    QMessageBox* box =
-        newMessageBox(this, QMessageBox::Information, QString(), tr("Misura Salvata."));
+    QMessageBox* box = newMessageBox(this, QMessageBox::Information, QString(),
+                                     tr("Misura Salvata."));
     DialogInfo* dialog = new DialogInfo(this, DLG_PANEL, _comment);
     if (dialog->exec() != QDialog::Accepted) {
         delete dialog;

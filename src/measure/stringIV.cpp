@@ -41,8 +41,7 @@
 #include <cstring>
 #include <limits>
 
-namespace
-{
+namespace {
 
 const float noValue = std::numeric_limits<float>::quiet_NaN();
 // The probe value of the automatic temperature mode, and what a temperature
