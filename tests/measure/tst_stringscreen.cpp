@@ -162,6 +162,8 @@ private slots:
         touch(&screen, "Confronto");
         QCOMPARE(driver.pending(), 0);
         QVERIFY(screen.plotter()->isViewPassTest());
+        QAction* stc = screen.findChild<QAction*>("PotenzaSTC");
+        QVERIFY(stc->isEnabled() && stc->isVisible());
         const int result = screen._result;
         const float delta = screen._deltaPmax;
         const QMap<int, QVector<QPointF>> curves = screen.plotter()->curves();
@@ -497,6 +499,29 @@ private slots:
         QCOMPARE(m.mrsi2, 0.0f);
         QCOMPARE(m.mcomp, 0);
         freeMeasureData(&m);
+    }
+    void saveIntoAMissingStringFolderSaysTheNameExistsAndLosesTheMeasure()
+    {
+        TestRoot root(0.01);
+        SimInstrument sim(root);
+        configure(root);
+        QVERIFY(world(sim, 850, 45));
+        ModalDriver driver;
+        Kind<StringIV>::count(driver);
+        StringIV screen(nullptr);
+        screen.show();
+        touch(&screen, "Start");
+        QVERIFY(QDir(root.path("/krm510data/datameastring")).removeRecursively());
+        QVERIFY(root.write("/krm510data/datameastring", "not a folder"));
+        driver.onNext([](QWidget* w) { touch(w, "Salva"); });
+        driver.answerBox();
+        touch(&screen, "Salva");
+        QCOMPARE(driver.boxes.size(), 1);
+        QCOMPARE(driver.boxes[0].text, QString("Misura"));
+        QCOMPARE(driver.boxes[0].informative, QString("Nome della misura già presente."));
+        QCOMPARE(driver.boxes[0].icon, QMessageBox::Information);
+        QVERIFY(!screen._measureDone);
+        QVERIFY(!child<QPushButton>(&screen, "Salva")->isEnabled());
     }
     void rejectedSaveFormDoesNotReopenOnReturn()
     {
