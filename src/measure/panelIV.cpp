@@ -639,7 +639,8 @@ void PanelIV::displayClock()
 
 void PanelIV::displayPowerSupply()
 {
-    const char* picture = supplyPicture(isPowerSupply(), isPowerSupply() ? 0 : batteryLevel());
+    const bool adapter = isPowerSupply();
+    const char* picture = supplyPicture(adapter, adapter ? 0 : batteryLevel());
     if (picture != nullptr) {
         _labelSupply->setPixmap(QPixmap(picture));
         return;

@@ -687,7 +687,8 @@ void StringIV::displayClock()
 
 void StringIV::displayPowerSupply()
 {
-    const char* picture = supplyPicture(isPowerSupply(), isPowerSupply() ? 0 : batteryLevel());
+    const bool adapter = isPowerSupply();
+    const char* picture = supplyPicture(adapter, adapter ? 0 : batteryLevel());
     if (picture != nullptr) {
         _labelSupply->setPixmap(QPixmap(picture));
         return;
