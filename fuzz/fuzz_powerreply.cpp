@@ -34,6 +34,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         int error = cutStatusLine(buffer.data(), &count);
         (void)error;
 
+        if (nulBehindEcho(buffer.data(), count, "mea_brask\r"))
+            error = -1;
+        (void)error;
+
         char text[checkedTextSize];
         std::memset(text, 0, sizeof text);
         int textCount = 0;

@@ -1,8 +1,10 @@
 // Feeds arbitrary bytes to the tag-line reading and to the configuration
 // reader: whatever a damaged file holds, reading it must end with a usable
-// record and nothing out of bounds.
+// record and nothing out of bounds; a line is read whole up to its bound, and
+// a stored text decodes to what it holds.
 #include "data/coredata.h"
 #include "data/datasetting.h"
+#include "data/storedtext.h"
 #include "platform/systemroot.h"
 
 #include <cmath>
@@ -39,6 +41,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
                 abort();
             if (strlen(key) >= TAG_KEY_SIZE || strlen(value) >= TAG_VALUE_SIZE)
                 abort();
+            // a stored text comes back whole: as UTF-8, or else byte for byte as Latin-1
+            if (kind == TAG_PAIR) {
+                QString text = storedText(value);
+                if (textToStore(text) != QByteArray(value) && text.toLatin1() != QByteArray(value))
+                    abort();
+            }
         }
         fclose(memory);
     }
@@ -53,7 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     _configParam config;
     if (readConfigFile(&config) != 0)
         abort();
-    if (strlen(config.bluemac) >= BLUEMAC_SIZE || strlen(config.bluename) > 59)
+    if (strlen(config.bluemac) >= BLUEMAC_SIZE || strlen(config.bluename) >= BLUENAME_SIZE)
         abort();
     if (config.tclock > 2)
         abort();

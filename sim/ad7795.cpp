@@ -34,7 +34,7 @@ double Ad7795::conversionMs() const
 
 bool Ad7795::ready()
 {
-    if (dataRead)
+    if (stuck || dataRead)
         return false;
     if (inst->fast) {
         if (busyPolls > 0) {

@@ -135,7 +135,9 @@ void Board::loaderInput(const std::string& bytes)
         auto found = loaderReplies.find(command);
         return found != loaderReplies.end() && !found->second.empty() ? &found->second : nullptr;
     };
-    auto answer = [&line, &forced](int command, const std::string& own) {
+    auto answer = [this, &line, &forced](int command, const std::string& own) {
+        if (silentCommands.count(command))
+            return;
         std::deque<std::string>* queue = forced(command);
         if (queue == nullptr) {
             line.send(own);
@@ -201,9 +203,11 @@ void Board::loaderInput(const std::string& bytes)
                 flash[address + 2 * static_cast<uint32_t>(i)] = word;
             }
             loaderBuffer.erase(0, 4 + rowBytes);
-            if (nakCount > 0) {
-                nakCount--;
-                line.send(std::string(1, '\0'));
+            if (nakCount != 0) {
+                if (nakCount > 0)
+                    nakCount--;
+                if (!silentCommands.count(0x03))
+                    line.send(std::string(1, '\0'));
             } else if (forced(0x03) != nullptr && forced(0x03)->front() != std::string(1, '\x01')) {
                 answer(0x03, std::string()); // a garbled acknowledgement: not taken as written
             } else {
@@ -295,6 +299,10 @@ void Board::reply(const std::string& echo, const std::vector<std::string>& data,
             first += format("ERROR %ld\r", faults["midstatus"]);
         (i < half ? first : second) += lines[i] + eol;
     }
+    // A NUL byte on the line behind the echo, at the start of the second half of
+    // the data (or alone when there is no data), before the status line.
+    if (faults.count("nul"))
+        second.insert(0, 1, '\0');
     auto longFault = faults.find("long");
     if (longFault != faults.end()) {
         std::string filler = lines.empty() ? std::string("0") : lines.back();

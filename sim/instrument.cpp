@@ -620,6 +620,10 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
                 return fail("count 0..65535 or off");
             return ok();
         }
+        if (w[1] == "stuck" && w.size() >= 3 && (w[2] == "on" || w[2] == "off")) {
+            adc.stuck = w[2] == "on";
+            return ok();
+        }
         if (w[1] == "registers")
             return ok(format("mode=0x%04x config=0x%04x io=0x%02x transfers=%d", adc.mode, adc.config,
                              adc.io, adc.transfers));
@@ -629,7 +633,8 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
                 return fail("adc count <channel> <gain>");
             return ok(std::to_string(adc.count(ch, static_cast<int>(n), true)));
         }
-        return fail("adc force <channel> <count>|off, adc registers, adc count <channel> <gain>");
+        return fail("adc force <channel> <count>|off, adc stuck on|off, adc registers, adc count "
+                    "<channel> <gain>");
     }
     if (cmd == "board" && w.size() >= 2) {
         const std::string& what = w[1];
@@ -644,8 +649,9 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
             return ok(text);
         }
         if (what == "fault" && w.size() >= 3) {
-            static const std::set<std::string> names = {"nostatus", "stray", "midstatus", "garbage", "long",
-                                                        "pause", "endless", "noise"};
+            static const std::set<std::string> names = {"nostatus", "stray", "midstatus",
+                                                        "garbage",  "long",  "pause",
+                                                        "endless",  "noise", "nul"};
             if (w[2] == "none") {
                 board.faults.clear();
                 board.onceFaults.clear();
@@ -653,8 +659,11 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
             }
             if (!names.count(w[2]))
                 return fail("board fault none|nostatus|stray|midstatus [code]|garbage|long [bytes]|"
-                            "pause [ms]|endless|noise [once]");
-            long arg = w[2] == "midstatus" ? 7 : w[2] == "long" ? 20480 : w[2] == "pause" ? 11000 : 0;
+                            "pause [ms]|endless|noise|nul [once]");
+            long arg = w[2] == "midstatus" ? 7
+                       : w[2] == "long"    ? 20480
+                       : w[2] == "pause"   ? 11000
+                                           : 0;
             bool once = false;
             for (size_t i = 3; i < w.size(); i++) {
                 if (w[i] == "once")
@@ -728,9 +737,23 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
             board.loaderVersion = static_cast<int>(n);
             return ok();
         }
-        if (w[1] == "nak" && integer(2, &n)) {
+        if (w[1] == "nak" && w.size() >= 3 && w[2] == "forever") {
+            board.nakCount = -1;
+            return ok();
+        }
+        if (w[1] == "nak" && integer(2, &n) && n >= 0) {
             board.nakCount = static_cast<int>(n);
             return ok();
+        }
+        if (w[1] == "silent" && w.size() >= 3) {
+            if (w[2] == "none") {
+                board.silentCommands.clear();
+                return ok();
+            }
+            if (integer(2, &n) && (n == 0x11 || n == 0x09 || n == 0x02 || n == 0x03)) {
+                board.silentCommands.insert(static_cast<int>(n));
+                return ok();
+            }
         }
         if (w[1] == "window" && integer(2, &n) && n >= 0) {
             board.windowMs = static_cast<double>(n);
@@ -752,7 +775,8 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
             board.loaderReplies[static_cast<int>(n)].push_back(text);
             return ok(std::to_string(board.loaderReplies[static_cast<int>(n)].size()));
         }
-        return fail("loader chip <id> <process> <family>|version <n>|nak <n>|window <ms>|"
+        return fail("loader chip <id> <process> <family>|version <n>|nak <n>|nak forever|"
+                    "silent 0x11|0x09|0x02|0x03|none|window <ms>|"
                     "greeting <escaped>|reply 0x11|0x09|0x02|0x03 <escaped>");
     }
     if (cmd == "flash" && w.size() >= 2) {

@@ -65,6 +65,8 @@ public:
     double conversionMs() const;
     long count(int channel, int gain, bool unipolar) const;
     int transfers = 0;
+    // A converter whose RDY never comes: every status read says busy.
+    bool stuck = false;
 
 private:
     bool ready();
@@ -106,8 +108,9 @@ public:
     double windowEnd = 0.0;
     int loaderVersion = 2;
     unsigned chipId = 0xBF, chipProcess = 3;
-    int family = 1; // 0 dsPIC30F, 1 dsPIC33F, 2 PIC24H, 3 PIC24F
-    int nakCount = 0;
+    int family = 1;               // 0 dsPIC30F, 1 dsPIC33F, 2 PIC24H, 3 PIC24F
+    int nakCount = 0;             // rows to refuse with 0x00; -1 refuses every row
+    std::set<int> silentCommands; // loader commands that act but are never answered
     std::string greeting = std::string("\0\x09\x09\x09\x0D", 5); // sent after each reset
     // Forced answers by loader command byte (0x11, 0x09, 0x02, 0x03), as they stand.
     std::map<int, std::deque<std::string>> loaderReplies;

@@ -1,12 +1,16 @@
 #include "archive/archiveform.h"
 
+#include "data/storedtext.h"
 #include "toolkit/embkeyboard.h"
+#include "toolkit/numbertext.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <algorithm>
+#include <cmath>
 
 float defaultKvoc(int type)
 {
@@ -32,7 +36,7 @@ void createLineEdit(QGridLayout* grid, QLineEdit* edit, QString label, QString u
 
 void showFormNumber(const FormNumber& field)
 {
-    field.edit->setText(QString::number(static_cast<double>(*field.value), 'f', field.decimals));
+    field.edit->setText(storedNumberText(*field.value, field.decimals));
     field.edit->setCursorPosition(0);
 }
 
@@ -41,16 +45,15 @@ FormRound enterFormNumber(QWidget* screen, QMessageBox* box, const FormNumber& f
     EmbKeyboard* keyboard = new EmbKeyboard(screen, QString(), QString());
     keyboard->setWindowTitle(field.keyboardTitle);
     box->setWindowTitle(field.boxTitle);
-    if (*field.value != 0)
+    if (*field.value != 0 && std::isfinite(*field.value))
         keyboard->setInitString(
             QString::number(static_cast<double>(*field.value), 'f', field.decimals));
     keyboard->toKeyPad();
     FormRound round = ROUND_LEFT;
     if (keyboard->exec() == QDialog::Accepted) {
         QString text = keyboard->stringEntered();
-        bool ok = false;
-        float value = text.toFloat(&ok);
-        if (!ok || !(value >= field.low && value <= field.high)) {
+        float value = 0;
+        if (!finiteNumber(text, &value) || !(value >= field.low && value <= field.high)) {
             box->setInformativeText(field.tag + text);
             box->exec();
             round = ROUND_REFUSED;
@@ -128,9 +131,37 @@ void setFormFont(QWidget* screen, QWidget* bar, int pointSize)
     screen->setFont(font);
 }
 
-void fillSortedCombo(QComboBox* combo, QStringList names)
+QList<NamedEntry> brandEntries(const _listBrand* head)
 {
-    names.sort();
+    QList<NamedEntry> entries;
+    for (const _listBrand* b = head; b != nullptr; b = b->next)
+        entries.append(NamedEntry{storedText(b->name), QByteArray(b->dir)});
+    return entries;
+}
+
+QList<NamedEntry> modelEntries(const _listModel* head)
+{
+    QList<NamedEntry> entries;
+    for (const _listModel* m = head; m != nullptr; m = m->next)
+        entries.append(NamedEntry{storedText(m->name), QByteArray(m->file)});
+    return entries;
+}
+
+void sortByName(QList<NamedEntry>* entries)
+{
+    std::stable_sort(entries->begin(), entries->end(),
+                     [](const NamedEntry& a, const NamedEntry& b) { return a.name < b.name; });
+}
+
+void fillSortedCombo(QComboBox* combo, QList<NamedEntry> entries)
+{
+    sortByName(&entries);
     combo->clear();
-    combo->addItems(names);
+    for (const NamedEntry& e : entries)
+        combo->addItem(e.name, e.key);
+}
+
+QByteArray comboKey(const QComboBox* combo)
+{
+    return combo->currentData(Qt::UserRole).toByteArray();
 }

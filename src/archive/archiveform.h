@@ -1,6 +1,9 @@
 #ifndef KRM_ARCHIVE_ARCHIVEFORM_H
 #define KRM_ARCHIVE_ARCHIVEFORM_H
 
+#include "data/coredata.h"
+
+#include <QByteArray>
 #include <QList>
 #include <QString>
 
@@ -67,7 +70,24 @@ QWidget* focusedIn(const QList<QWidget*>& chain);
 // font than the instrument's, the status bar keeps the instrument's.
 void setFormFont(QWidget* screen, QWidget* bar, int pointSize);
 
-// Fills a combo with the names sorted by the string list sort.
-void fillSortedCombo(QComboBox* combo, QStringList names);
+// One brand or model of a list screen: the name it shows and the brand's
+// directory or the model's file, which the item keeps (Qt::UserRole).
+struct NamedEntry {
+    QString name;
+    QByteArray key;
+};
+QList<NamedEntry> brandEntries(const _listBrand* head);
+QList<NamedEntry> modelEntries(const _listModel* head);
+// Sorts by name with the string order, entries of one name as they came.
+void sortByName(QList<NamedEntry>* entries);
+
+// Fills a combo with the entries sorted by name. The old screens kept only
+// the names and looked the chosen one up by its name again, so of two
+// brands or models of the same name, a name that is not valid UTF-8 or a
+// file without a name line, another one (or none) was taken: the item keeps
+// its directory or file and every lookup goes by that (comboKey).
+void fillSortedCombo(QComboBox* combo, QList<NamedEntry> entries);
+// The directory or file of the combo's current item, empty with none.
+QByteArray comboKey(const QComboBox* combo);
 
 #endif

@@ -78,27 +78,25 @@ DeletePanel::~DeletePanel()
 
 void DeletePanel::insertBrandOnCombo()
 {
-    QStringList names;
-    for (_listBrand* b = _brandHead; b != nullptr; b = b->next)
-        names << QString::fromLocal8Bit(b->name);
     QSignalBlocker block(_comboBrand);
-    fillSortedCombo(_comboBrand, names);
+    fillSortedCombo(_comboBrand, brandEntries(_brandHead));
 }
 
 void DeletePanel::selectBrandOnCombo()
 {
-    QByteArray brand = _comboBrand->currentText().toLocal8Bit();
-    _listBrand* node = findBrandPanel(_brandHead, brand.constData());
+    _listBrand* node = findBrandDir(_brandHead, comboKey(_comboBrand).constData());
     _modelHead = closeListModelBrand(_modelHead);
     if (node != nullptr)
         _modelHead = readListModelPanel(node->dir);
-    QStringList names;
-    for (_listModel* m = _modelHead; m != nullptr; m = m->next)
-        names << QString::fromLocal8Bit(m->name);
-    names.sort();
+    // each item keeps its model's file, by which the deletion goes
+    QList<NamedEntry> models = modelEntries(_modelHead);
+    sortByName(&models);
     _listWidgetModel->clear();
-    _listWidgetModel->addItems(names);
-    _labelCount->setText(tr("Numero di Modelli : ") + QString::number(names.size()));
+    for (const NamedEntry& e : models) {
+        QListWidgetItem* item = new QListWidgetItem(e.name, _listWidgetModel);
+        item->setData(Qt::UserRole, e.key);
+    }
+    _labelCount->setText(tr("Numero di Modelli : ") + QString::number(models.size()));
     _modelSelected.clear();
     _buttonDeleteModel->setEnabled(false);
     _buttonDeleteBrand->setEnabled(node != nullptr);
@@ -108,7 +106,7 @@ void DeletePanel::selectModel(QListWidgetItem* item)
 {
     if (item == nullptr)
         return;
-    _modelSelected = item->text();
+    _modelSelected = item->data(Qt::UserRole).toByteArray();
     _buttonDeleteModel->setEnabled(true);
 }
 
@@ -138,10 +136,8 @@ void DeletePanel::questionDeleteBrand()
 
 void DeletePanel::eraseModel()
 {
-    QByteArray brand = _comboBrand->currentText().toLocal8Bit();
-    QByteArray model = _modelSelected.toLocal8Bit();
-    _listBrand* brandNode = findBrandPanel(_brandHead, brand.constData());
-    _listModel* modelNode = findModelPanel(_modelHead, model.constData());
+    _listBrand* brandNode = findBrandDir(_brandHead, comboKey(_comboBrand).constData());
+    _listModel* modelNode = findModelFile(_modelHead, _modelSelected.constData());
     if (brandNode != nullptr && modelNode != nullptr) {
         char saved[CWD_SIZE];
         if (chDataPanelDir(saved, sizeof saved) == 0) {
@@ -157,14 +153,14 @@ void DeletePanel::eraseModel()
 
 void DeletePanel::eraseBrand()
 {
-    QByteArray brand = _comboBrand->currentText().toLocal8Bit();
-    _listBrand* node = findBrandPanel(_brandHead, brand.constData());
+    _listBrand* node = findBrandDir(_brandHead, comboKey(_comboBrand).constData());
     if (node == nullptr)
         return;
     int models = 0;
     for (_listModel* m = _modelHead; m != nullptr; m = m->next)
         models++;
     QProgressDialog progress(tr("Cancella Modulo..."), QString(), 0, models + 2, this);
+    progress.reset(); // stops the show timer of the constructor (see PanelIV::measurePanel)
     progress.setWindowModality(Qt::WindowModal);
     progress.setStyleSheet(READ_PROGRESS_STYLE);
     progress.setValue(0);

@@ -40,7 +40,7 @@ private:
     bool askConfirmation(const QString& text);
 
     _listModel* _modelHead;
-    QString _modelSelected;
+    QByteArray _modelSelected; // the chosen model's file
 
     InfoBar* _infoBar;
     QComboBox* _comboBrand;

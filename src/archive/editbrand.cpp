@@ -2,6 +2,7 @@
 
 #include "archive/archiveform.h"
 #include "data/datapanel.h"
+#include "data/storedtext.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
 
@@ -15,8 +16,8 @@
 #include <QVBoxLayout>
 #include <cstdlib>
 
-
-EditBrand::EditBrand(QWidget* parent, _listBrand* brandList) : QDialog(parent), _brandHead(brandList)
+EditBrand::EditBrand(QWidget* parent, _listBrand* brandList)
+    : QDialog(parent), _brandHead(brandList)
 {
     setObjectName("EditBrand");
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
@@ -44,7 +45,8 @@ EditBrand::EditBrand(QWidget* parent, _listBrand* brandList) : QDialog(parent), 
     box->addLayout(buttons);
 
     readBrandPanel();
-    connect(_listWidgetBrand, &QListWidget::itemSelectionChanged, this, &EditBrand::selectBrandInList);
+    connect(_listWidgetBrand, &QListWidget::itemSelectionChanged, this,
+            &EditBrand::selectBrandInList);
     connect(_buttonSave, &QPushButton::clicked, this, &EditBrand::saveBrand);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
     // modal from the first show: exec() on a shown window would not make it so
@@ -55,15 +57,13 @@ EditBrand::EditBrand(QWidget* parent, _listBrand* brandList) : QDialog(parent), 
 void EditBrand::readBrandPanel()
 {
     _listWidgetBrand->clear();
-    _brandDir.clear();
-    QStringList names;
-    for (_listBrand* b = _brandHead; b != nullptr; b = b->next) {
-        QString name = QString::fromLocal8Bit(b->name);
-        names << name;
-        _brandDir.insert(name, QString::fromLocal8Bit(b->dir));
+    // each item keeps its brand's directory: two brands may bear one name
+    QList<NamedEntry> brands = brandEntries(_brandHead);
+    sortByName(&brands);
+    for (const NamedEntry& e : brands) {
+        QListWidgetItem* item = new QListWidgetItem(e.name, _listWidgetBrand);
+        item->setData(Qt::UserRole, e.key);
     }
-    names.sort();
-    _listWidgetBrand->addItems(names);
     _listWidgetBrand->insertItem(0, tr("<Nuova Marca>"));
 }
 
@@ -76,7 +76,16 @@ QString EditBrand::selectedText() const
 void EditBrand::selectBrandInList()
 {
     _editBrand->setText(selectedText());
-    _buttonSave->setEnabled(!selectedText().isEmpty());
+    updateSaveButton();
+}
+
+// Something to save: a row is selected, "<Nuova Marca>" included, and the
+// text is another than the row's (and not the placeholder's).
+void EditBrand::updateSaveButton()
+{
+    QString selected = selectedText();
+    QString text = _editBrand->text();
+    _buttonSave->setEnabled(!selected.isEmpty() && text != selected && text != tr("<Nuova Marca>"));
 }
 
 bool EditBrand::eventFilter(QObject* obj, QEvent* event)
@@ -92,13 +101,12 @@ void EditBrand::editLineObject(QObject* obj)
 {
     if (obj != _editBrand)
         return;
-    QMessageBox* box = newMessageBox(this, QMessageBox::Information, QString(),
-                                     tr("Testo inserito non valido."));
+    QMessageBox* box =
+        newMessageBox(this, QMessageBox::Information, QString(), tr("Testo inserito non valido."));
     QString initial = selectedText() == tr("<Nuova Marca>") ? QString() : _editBrand->text();
     enterFormText(this, box, _editBrand, initial, tr("Modifica Marca"), tr("Marca Modulo"),
                   QString(), QString());
-    QString text = _editBrand->text();
-    _buttonSave->setEnabled(text != tr("<Nuova Marca>") && text != selectedText());
+    updateSaveButton();
     delete box;
 }
 
@@ -114,7 +122,7 @@ void EditBrand::saveBrand()
                        tr("Testo inserito non valido."));
         return;
     }
-    QByteArray typed = name.toLocal8Bit();
+    QByteArray typed = textToStore(name);
     int result = -1;
     QString text;
     if (selected == tr("<Nuova Marca>")) {
@@ -124,7 +132,7 @@ void EditBrand::saveBrand()
         free(dir);
         text = tr("Inserita nuova marca");
     } else {
-        QByteArray dir = _brandDir.value(selected).toLocal8Bit();
+        QByteArray dir = _listWidgetBrand->currentItem()->data(Qt::UserRole).toByteArray();
         result = updateBrand(dir.constData(), typed.constData());
         text = tr("Aggiornamento eseguito.");
     }

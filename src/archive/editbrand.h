@@ -4,7 +4,6 @@
 #include "data/coredata.h"
 
 #include <QDialog>
-#include <QMap>
 
 class InfoBar;
 class QLineEdit;
@@ -33,8 +32,7 @@ protected:
 private:
     void readBrandPanel();
     QString selectedText() const;
-
-    QMap<QString, QString> _brandDir;
+    void updateSaveButton();
 
     InfoBar* _infoBar;
     QListWidget* _listWidgetBrand;

@@ -1,6 +1,7 @@
 #include "archive/editpanel.h"
 
 #include "data/datapanel.h"
+#include "data/storedtext.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
 
@@ -129,11 +130,8 @@ void EditPanel::prepareCombo()
 
 void EditPanel::insertBrandOnCombo()
 {
-    QStringList names;
-    for (_listBrand* b = _brandHead; b != nullptr; b = b->next)
-        names << QString::fromLocal8Bit(b->name);
     QSignalBlocker block(_comboBrand);
-    fillSortedCombo(_comboBrand, names);
+    fillSortedCombo(_comboBrand, brandEntries(_brandHead));
 }
 
 void EditPanel::resetFeature(_panelFeature* feature)
@@ -148,34 +146,29 @@ void EditPanel::takeNames(_listBrand* brand, _listModel* model)
     free(_record.brandDir);
     free(_record.modelName);
     free(_record.modelFile);
-    _record.brandName = brand != nullptr ? strdup(brand->name) : nullptr;
-    _record.brandDir = brand != nullptr ? strdup(brand->dir) : nullptr;
-    _record.modelName = model != nullptr ? strdup(model->name) : nullptr;
-    _record.modelFile = model != nullptr ? strdup(model->file) : nullptr;
+    // a model file without a name line has no name
+    _record.brandName = brand != nullptr ? allocData(nullptr, brand->name) : nullptr;
+    _record.brandDir = brand != nullptr ? allocData(nullptr, brand->dir) : nullptr;
+    _record.modelName = model != nullptr ? allocData(nullptr, model->name) : nullptr;
+    _record.modelFile = model != nullptr ? allocData(nullptr, model->file) : nullptr;
 }
 
 void EditPanel::selectBrandOnCombo()
 {
     QSignalBlocker block(_comboModel);
     _modelHead = closeListModelBrand(_modelHead);
-    QByteArray brand = _comboBrand->currentText().toLocal8Bit();
-    _listBrand* node = findBrandPanel(_brandHead, brand.constData());
+    _listBrand* node = findBrandDir(_brandHead, comboKey(_comboBrand).constData());
     if (node != nullptr)
         _modelHead = readListModelPanel(node->dir);
-    QStringList names;
-    for (_listModel* m = _modelHead; m != nullptr; m = m->next)
-        names << QString::fromLocal8Bit(m->name);
-    fillSortedCombo(_comboModel, names);
+    fillSortedCombo(_comboModel, modelEntries(_modelHead));
     _comboModel->setCurrentIndex(0);
     selectModelOnCombo();
 }
 
 void EditPanel::selectModelOnCombo()
 {
-    QByteArray brand = _comboBrand->currentText().toLocal8Bit();
-    QByteArray model = _comboModel->currentText().toLocal8Bit();
-    _listBrand* brandNode = findBrandPanel(_brandHead, brand.constData());
-    _listModel* modelNode = findModelPanel(_modelHead, model.constData());
+    _listBrand* brandNode = findBrandDir(_brandHead, comboKey(_comboBrand).constData());
+    _listModel* modelNode = findModelFile(_modelHead, comboKey(_comboModel).constData());
     takeNames(brandNode, modelNode);
     resetFeature(&_record.feature);
     if (brandNode != nullptr && modelNode != nullptr)
@@ -243,7 +236,7 @@ void EditPanel::editLineObject(QObject* obj)
 
 void EditPanel::savePanelEdited()
 {
-    QByteArray model = _comboModel->currentText().toLocal8Bit();
+    QByteArray model = textToStore(_comboModel->currentText());
     free(_record.modelName);
     _record.modelName = _record.modelFile != nullptr ? strdup(model.constData()) : nullptr;
     // the outcome of the write is not told on this screen

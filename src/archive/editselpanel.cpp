@@ -1,6 +1,7 @@
 #include "archive/editselpanel.h"
 
 #include "data/datapanel.h"
+#include "data/storedtext.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
 
@@ -136,8 +137,8 @@ void EditSelectedPanel::prepareCombo()
 
 void EditSelectedPanel::viewFeaturePanel()
 {
-    _labelBrand->setText(QString::fromLocal8Bit(_record.brandName));
-    _editModel->setText(QString::fromLocal8Bit(_record.modelName));
+    _labelBrand->setText(storedText(_record.brandName));
+    _editModel->setText(storedText(_record.modelName));
     for (const FormNumber& field : _number)
         showFormNumber(field);
     QSignalBlocker block(_comboType);
@@ -204,7 +205,7 @@ void EditSelectedPanel::editLineObject(QObject* obj)
 
 void EditSelectedPanel::savePanelEdited()
 {
-    QByteArray model = _editModel->text().toLocal8Bit();
+    QByteArray model = textToStore(_editModel->text());
     char* grown = static_cast<char*>(realloc(_record.modelName, static_cast<size_t>(model.size()) + 1));
     if (grown != nullptr) {
         memcpy(grown, model.constData(), static_cast<size_t>(model.size()) + 1);

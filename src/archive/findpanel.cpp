@@ -2,9 +2,12 @@
 
 #include "archive/archiveform.h"
 #include "data/datapanel.h"
+#include "data/storedtext.h"
 #include "toolkit/embkeyboard.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
+#include "toolkit/tabcolumns.h"
+#include "toolkit/numbertext.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -19,7 +22,8 @@
 #include <QVBoxLayout>
 #include <cmath>
 
-FindPanel::FindPanel(QWidget* parent, _listBrand* brandList) : QDialog(parent), _brandHead(brandList)
+FindPanel::FindPanel(QWidget* parent, _listBrand* brandList)
+    : QDialog(parent), _brandHead(brandList)
 {
     setObjectName("FindPanel");
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
@@ -57,6 +61,8 @@ FindPanel::FindPanel(QWidget* parent, _listBrand* brandList) : QDialog(parent), 
     QFont listFont = _listFind->font();
     listFont.setPointSize(22);
     _listFind->setFont(listFont);
+    // the cells of the header and of the rows stand in columns
+    new TabColumns(_listFind);
     _labelCount = new QLabel(tr("Modello trovato : "));
     _labelCount->setObjectName("count");
     _buttonFind = new QPushButton(QIcon(":/icon/find-panel.png"), tr("Cerca"));
@@ -91,7 +97,7 @@ QString FindPanel::floatToString(float value)
 {
     if (value == 0)
         return QString("");
-    return QString::number(static_cast<double>(value), 'f', 2);
+    return storedNumberText(value, 2);
 }
 
 void FindPanel::resetParameters()
@@ -131,10 +137,9 @@ void FindPanel::editLineObject(QObject* obj)
     if (row < 0)
         return;
 
-    const QString title[ROWS][FIELDS] = {
-        {tr("Pmax"), tr("Pmax Minima"), tr("Pmax Massima")},
-        {tr("Vmpp"), tr("Vmpp Minima"), tr("Vmpp Massima")},
-        {tr("Impp"), tr("Impp Minima"), tr("Impp Massima")}};
+    const QString title[ROWS][FIELDS] = {{tr("Pmax"), tr("Pmax Minima"), tr("Pmax Massima")},
+                                         {tr("Vmpp"), tr("Vmpp Minima"), tr("Vmpp Massima")},
+                                         {tr("Impp"), tr("Impp Minima"), tr("Impp Massima")}};
     const QString tag[ROWS] = {tr("Pmax : "), tr("Vmpp : "), tr("Impp : ")};
     const QString negative[ROWS][FIELDS] = {
         {tr("Pmax non può essere negativa : "), tr("Pmax Minima non può essere negativa : "),
@@ -160,14 +165,14 @@ void FindPanel::editLineObject(QObject* obj)
     keyboard->toKeyPad();
     if (keyboard->exec() == QDialog::Accepted) {
         QString text = keyboard->stringEntered();
-        bool ok = false;
-        float value = text.toFloat(&ok);
+        float value = 0;
+        bool ok = finiteNumber(text, &value);
         QLineEdit* minimum = _edit[row][MINIMUM];
         QLineEdit* maximum = _edit[row][MAXIMUM];
         QString refusal;
         if (text.isEmpty()) {
             edit->clear();
-        } else if (!ok || !std::isfinite(value)) {
+        } else if (!ok) {
             refusal = tag[row] + text;
         } else if (value < 0) {
             refusal = negative[row][field] + text;
@@ -203,14 +208,15 @@ void FindPanel::headerFindList()
 void FindPanel::addPanelInFindList(_listBrand* brand, _listModel* model, _panelFeature* feature)
 {
     QStringList cells;
-    cells << QString::fromLocal8Bit(brand->name).left(8)
-          << QString::fromLocal8Bit(model->name).left(10) << floatToString(feature->pmax)
-          << floatToString(feature->vmpp) << floatToString(feature->impp)
-          << floatToString(feature->voc) << floatToString(feature->isc);
+    cells << storedText(brand->name).left(8) << storedText(model->name).left(10)
+          << floatToString(feature->pmax) << floatToString(feature->vmpp)
+          << floatToString(feature->impp) << floatToString(feature->voc)
+          << floatToString(feature->isc);
     _listFind->addItem(cells.join("\t"));
 }
 
-namespace {
+namespace
+{
 
 // One quantity's criterion as the fields hold it at the start of a search.
 struct Criterion {
@@ -244,6 +250,7 @@ void FindPanel::findPanelInDB()
     for (_listBrand* b = _brandHead; b != nullptr; b = b->next)
         brands++;
     QProgressDialog progress(tr("Ricerca Modulo..."), tr("Cancella..."), 0, brands, this);
+    progress.reset(); // stops the show timer of the constructor (see PanelIV::measurePanel)
     progress.setWindowModality(Qt::WindowModal);
     progress.setMinimumDuration(10);
     progress.setStyleSheet(READ_PROGRESS_STYLE);

@@ -2,7 +2,9 @@
 
 #include "archive/archiveform.h"
 #include "data/datapanel.h"
+#include "data/storedtext.h"
 #include "toolkit/infobar.h"
+#include "toolkit/numbertext.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -61,10 +63,7 @@ ListPanel::~ListPanel()
 
 void ListPanel::insertBrandOnCombo()
 {
-    QStringList names;
-    for (_listBrand* b = _brandHead; b != nullptr; b = b->next)
-        names << QString::fromLocal8Bit(b->name);
-    fillSortedCombo(_comboBrand, names);
+    fillSortedCombo(_comboBrand, brandEntries(_brandHead));
 }
 
 void ListPanel::addItemToTable(int row, int column, QString text)
@@ -76,8 +75,7 @@ void ListPanel::addItemToTable(int row, int column, QString text)
 
 void ListPanel::selectBrandOnCombo()
 {
-    QByteArray brand = _comboBrand->currentText().toLocal8Bit();
-    _listBrand* node = findBrandPanel(_brandHead, brand.constData());
+    _listBrand* node = findBrandDir(_brandHead, comboKey(_comboBrand).constData());
     _modelHead = closeListModelBrand(_modelHead);
     if (node != nullptr)
         _modelHead = readListModelPanel(node->dir);
@@ -94,13 +92,13 @@ void ListPanel::selectBrandOnCombo()
         _panelFeature f;
         getPanelFeature(node->dir, m->file, &f);
         _table->insertRow(row);
-        addItemToTable(row, 0, QString::fromLocal8Bit(m->name));
-        addItemToTable(row, 1, QString::number(static_cast<double>(f.pmax), 'f', 1));
-        addItemToTable(row, 2, QString::number(static_cast<double>(f.vmpp), 'f', 2));
-        addItemToTable(row, 3, QString::number(static_cast<double>(f.impp), 'f', 2));
-        addItemToTable(row, 4, QString::number(static_cast<double>(f.voc), 'f', 2));
-        addItemToTable(row, 5, QString::number(static_cast<double>(f.isc), 'f', 2));
-        addItemToTable(row, 6, QString::number(static_cast<double>(f.kvoc), 'f', 4));
+        addItemToTable(row, 0, storedText(m->name));
+        addItemToTable(row, 1, storedNumberText(f.pmax, 1));
+        addItemToTable(row, 2, storedNumberText(f.vmpp, 2));
+        addItemToTable(row, 3, storedNumberText(f.impp, 2));
+        addItemToTable(row, 4, storedNumberText(f.voc, 2));
+        addItemToTable(row, 5, storedNumberText(f.isc, 2));
+        addItemToTable(row, 6, storedNumberText(f.kvoc, 4));
     }
     for (int column = 1; column <= 6; column++)
         _table->resizeColumnToContents(column);

@@ -1,6 +1,7 @@
 #include "archive/newpanel.h"
 
 #include "data/datapanel.h"
+#include "data/storedtext.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
 
@@ -121,10 +122,7 @@ void NewPanel::prepareCombo()
 
 void NewPanel::insertBrandOnCombo()
 {
-    QStringList names;
-    for (_listBrand* b = _brandHead; b != nullptr; b = b->next)
-        names << QString::fromLocal8Bit(b->name);
-    fillSortedCombo(_comboBrand, names);
+    fillSortedCombo(_comboBrand, brandEntries(_brandHead));
 }
 
 void NewPanel::resetFeature()
@@ -214,8 +212,7 @@ void NewPanel::editLineObject(QObject* obj)
 
 void NewPanel::savePanel()
 {
-    QByteArray brand = _comboBrand->currentText().toLocal8Bit();
-    QByteArray model = _modelName.toLocal8Bit();
+    QByteArray model = textToStore(_modelName);
     _panel panel;
     panel.brandName = nullptr;
     panel.brandDir = nullptr;
@@ -224,7 +221,7 @@ void NewPanel::savePanel()
     panel.feature = _feature;
 
     QString text = tr("Nuovo Modulo");
-    _listBrand* node = findBrandPanel(_brandHead, brand.constData());
+    _listBrand* node = findBrandDir(_brandHead, comboKey(_comboBrand).constData());
     _listModel* list = nullptr;
     if (node != nullptr) {
         panel.brandName = strdup(node->name);

@@ -1,8 +1,67 @@
 #include "data/coredata.h"
 
 #include <cctype>
+#include <clocale>
+#include <cstdarg>
 #include <cstdlib>
 #include <cstring>
+#include <locale.h>
+
+static locale_t cLocale()
+{
+    static const locale_t c = newlocale(LC_ALL_MASK, "C", static_cast<locale_t>(nullptr));
+    return c;
+}
+
+double cAtof(const char* text)
+{
+    if (text == nullptr)
+        return 0.0;
+    return strtod_l(text, nullptr, cLocale());
+}
+
+// Switches the calling thread to the C locale while it lives.
+class CLocaleScope
+{
+public:
+    CLocaleScope() : previous(uselocale(cLocale())) {}
+    ~CLocaleScope() { uselocale(previous); }
+    CLocaleScope(const CLocaleScope&) = delete;
+    CLocaleScope& operator=(const CLocaleScope&) = delete;
+
+private:
+    locale_t previous;
+};
+
+int cFprintf(FILE* stream, const char* format, ...)
+{
+    CLocaleScope c;
+    va_list args;
+    va_start(args, format);
+    int n = vfprintf(stream, format, args);
+    va_end(args);
+    return n;
+}
+
+int cSscanf(const char* text, const char* format, ...)
+{
+    CLocaleScope c;
+    va_list args;
+    va_start(args, format);
+    int n = vsscanf(text, format, args);
+    va_end(args);
+    return n;
+}
+
+int cSnprintf(char* target, size_t size, const char* format, ...)
+{
+    CLocaleScope c;
+    va_list args;
+    va_start(args, format);
+    int n = vsnprintf(target, size, format, args);
+    va_end(args);
+    return n;
+}
 
 static bool lowerTag(const char* tag, char* buffer, size_t size)
 {
@@ -28,8 +87,8 @@ int fwriteTagFloatPrecision(FILE* stream, const char* tag, float value, int prec
     if (stream == nullptr || !lowerTag(tag, key, sizeof key))
         return -1;
     if (precision == 0)
-        return fprintf(stream, "%s = %f\n", key, static_cast<double>(value));
-    return fprintf(stream, "%s = %.*f\n", key, precision, static_cast<double>(value));
+        return cFprintf(stream, "%s = %f\n", key, static_cast<double>(value));
+    return cFprintf(stream, "%s = %.*f\n", key, precision, static_cast<double>(value));
 }
 
 int fwriteTagFloat(FILE* stream, const char* tag, float value)
@@ -79,7 +138,7 @@ void skipNote(FILE* stream)
     if (stream == nullptr)
         return;
     char line[TAG_LINE_SIZE];
-    while (fgets(line, sizeof line, stream) != nullptr) {
+    while (readTagLine(stream, line)) {
         if (*skipBlanks(line) == '<')
             return;
     }
@@ -175,5 +234,16 @@ bool readTagLine(FILE* stream, char line[TAG_LINE_SIZE])
 {
     if (stream == nullptr)
         return false;
-    return fgets(line, TAG_LINE_SIZE, stream) != nullptr;
+    size_t n = 0;
+    int c = EOF;
+    bool any = false;
+    while ((c = getc(stream)) != EOF) {
+        any = true;
+        if (n < TAG_LINE_SIZE - 1)
+            line[n++] = static_cast<char>(c);
+        if (c == '\n')
+            break;
+    }
+    line[n] = '\0';
+    return any;
 }

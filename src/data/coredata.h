@@ -92,9 +92,14 @@ enum _language : int { LANG_IT = 0, LANG_EN = 1, LANG_FR = 2, LANG_DE = 3, LANG_
 enum _displayClock : int { CLOCK_DATE_TIME = 0, CLOCK_DATE = 1, CLOCK_TIME = 2 };
 enum _countFile : int { COUNT_FILES = 0, COUNT_DIRS = 1 };
 
+// The screens' copies of a stored text (a comment, a brand or model name):
+// the old ones held 255 bytes, fewer than 255 characters of UTF-8. They hold
+// 255 characters of up to four bytes each and the NUL.
+#define TEXT_COPY_SIZE (4 * 255 + 1)
+
 #define BLUEMAC_SIZE 18
 // Room for the 60 characters the settings screen accepts and the NUL; the
-// reader still replaces a name longer than 59 characters by the default.
+// reader replaces a longer name by the default.
 #define BLUENAME_SIZE 61
 
 // The settings and calibration of the instrument, the image of /etc/krm510.conf.
@@ -277,6 +282,20 @@ enum _pdError : int {
     PD_OVER_TEMPERATURE = 11
 };
 
+// ---- Numbers in files speak C.
+// The old instrument wrote and read the numbers of its files in the process
+// locale (a German or Italian locale would write "1,5" and read "1,5" as 1);
+// files speak C whatever the locale: every number of the data layer goes
+// through these three, which use a C locale object of their own.
+
+double cAtof(const char* text);
+int cFprintf(FILE* stream, const char* format, ...) __attribute__((format(printf, 2, 3)));
+int cSnprintf(char* target, size_t size, const char* format, ...)
+    __attribute__((format(printf, 3, 4)));
+// The same for the numbers on the wire of the measuring board and the remote
+// unit, which the old code read and wrote in the process locale too.
+int cSscanf(const char* text, const char* format, ...) __attribute__((format(scanf, 2, 3)));
+
 // ---- Tag files: "key = value" lines.
 
 int fwriteTagStr(FILE* stream, const char* tag, const char* value);
@@ -304,9 +323,15 @@ void strunderline(char* text, int* count);
 
 // ---- Splitting one line of a tag file.
 
-#define TAG_LINE_SIZE 256
+// The old readers took a line in pieces of 255 bytes, each piece read as a
+// line of its own: a long comment or model name was cut, and its tail was
+// taken for the next line (in a measure, for a point that shifted the whole
+// curve). Stored data is never lost: a line is read whole up to 1023 bytes
+// (a text of 255 characters in UTF-8 with its key), and what lies beyond is
+// skipped, never taken for the next line.
+#define TAG_LINE_SIZE 1024
 #define TAG_KEY_SIZE 128
-#define TAG_VALUE_SIZE 256
+#define TAG_VALUE_SIZE 1024
 
 enum _tagLine : int {
     TAG_SKIP = 0,     // comment, blank line, empty key or empty value
@@ -318,8 +343,10 @@ enum _tagLine : int {
 // Splits one line read with a TAG_LINE_SIZE buffer. The key is upper-cased.
 _tagLine splitTagLine(const char* line, char key[TAG_KEY_SIZE], char value[TAG_VALUE_SIZE]);
 
-// Reads the next piece of a tag file into line (TAG_LINE_SIZE bytes): a line
-// of up to 255 characters, a longer one in pieces. Returns false at the end.
+// Reads the next line of a tag file into line (TAG_LINE_SIZE bytes, the
+// newline kept as fgets keeps it): up to 1023 bytes of it, the rest of a
+// longer line skipped. Returns false at the end. Every reader of the data
+// layer reads its lines with it.
 bool readTagLine(FILE* stream, char line[TAG_LINE_SIZE]);
 
 #endif

@@ -201,8 +201,12 @@ int getIdStringPower(const char* file, char* id, char* nstri, char* npowe)
             target = nstri;
         else if (strcmp(key, "NPOWE") == 0)
             target = npowe;
-        if (target != nullptr)
-            snprintf(target, TAG_VALUE_SIZE, "%s", value);
+        if (target != nullptr) {
+            // the caller's buffers hold 256 bytes
+            size_t n = strnlen(value, 255);
+            memcpy(target, value, n);
+            target[n] = '\0';
+        }
     }
     fclose(f);
     return 0;

@@ -93,8 +93,8 @@ int saveMeasuresData(const _measure* m, _meaType type, unsigned sn)
     sum += fwriteTagFloatPrecision(f, "RTOLLP", m->ref.tollp, 2);
     sum += fwriteTagFloatPrecision(f, "RTOLLM", m->ref.tollm, 2);
     for (int k = 0; k < RAMP_POINTS; k++)
-        sum += fprintf(f, "%.4f\t%.4f\n", static_cast<double>(m->ramp.corrente[k]),
-                       static_cast<double>(m->ramp.tensione[k]));
+        sum += cFprintf(f, "%.4f\t%.4f\n", static_cast<double>(m->ramp.corrente[k]),
+                        static_cast<double>(m->ramp.tensione[k]));
     fflush(f);
     fclose(f);
     return sum;
@@ -154,13 +154,13 @@ static void takeMeasureValue(_measure* m, const char* key, const char* value)
     } else {
         for (const FloatKey& k : floatKeys)
             if (strcmp(key, k.key) == 0)
-                m->*k.field = static_cast<float>(atof(value));
+                m->*k.field = static_cast<float>(cAtof(value));
         for (const IntKey& k : intKeys)
             if (strcmp(key, k.key) == 0)
                 m->*k.field = atoi(value);
         for (const RefKey& k : refKeys)
             if (strcmp(key, k.key) == 0)
-                m->ref.*k.field = static_cast<float>(atof(value));
+                m->ref.*k.field = static_cast<float>(cAtof(value));
     }
 }
 
@@ -205,8 +205,8 @@ int readMeasureData(const char* file, _measure* m, _meaType type)
         char first[TAG_LINE_SIZE] = {0};
         char second[TAG_LINE_SIZE] = {0};
         sscanf(line, "%255s\t%255s", first, second);
-        corrente[k] = static_cast<float>(atof(first));
-        tensione[k] = static_cast<float>(atof(second));
+        corrente[k] = static_cast<float>(cAtof(first));
+        tensione[k] = static_cast<float>(cAtof(second));
         if (corrente[k] == 0.0f && tensione[k] == 0.0f) {
             // a zero point repeats the one before it; before the first point
             // stand the last reference value and the last current slot

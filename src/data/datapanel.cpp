@@ -26,6 +26,7 @@ bool walkDataDir(QWidget* parent, const char* label, const char* path, _countFil
 {
     QProgressDialog progress(QObject::tr(label), QString(), 0, 100, parent,
                              Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
+    progress.reset(); // stops the show timer of the constructor (see PanelIV::measurePanel)
     progress.setMinimumDuration(1500);
     progress.setWindowModality(Qt::WindowModal);
     progress.setStyleSheet(READ_PROGRESS_STYLE);
@@ -179,7 +180,7 @@ char* newNameFile(const char* model, float pmax, const char* brandDir)
 
     // the power in watts joins the name
     char withPower[NAME_SIZE];
-    snprintf(withPower, sizeof withPower, "%s %.0f", model, static_cast<double>(pmax));
+    cSnprintf(withPower, sizeof withPower, "%s %.0f", model, static_cast<double>(pmax));
     blanks = fileNameText(withPower, text);
     name = tryWordPrefixes(text, blanks, FILE_NAME_LIMIT + 1, freeModelFile);
     if (name == nullptr)
@@ -306,7 +307,7 @@ int getPanelFeature(const char* brandDir, const char* file, _panelFeature* featu
         }
         if (kind != TAG_PAIR)
             continue;
-        float number = static_cast<float>(atof(value));
+        float number = static_cast<float>(cAtof(value));
         bool known = true;
         if (strcmp(key, "PMAX") == 0)
             feature->pmax = number;
@@ -347,16 +348,17 @@ char* getBrandName(const char* brandDir)
         return nullptr;
     char path[2 * NAME_SIZE];
     snprintf(path, sizeof path, "%s/%s", brandDir, BRAND_NAME_FILE);
-    char name[NAME_SIZE] = {0};
-    // a brand without its name file shows an empty name
+    // a brand without its name file shows an empty name; the old reader kept
+    // 255 bytes of the line, fewer than 255 characters of UTF-8: the line is
+    // read whole by the tag files' line reader
+    char name[TAG_LINE_SIZE] = {0};
     FILE* f = fopen(path, "r");
     if (f != nullptr) {
-        size_t n = 0;
-        int c;
-        while (n < sizeof name - 1 && (c = fgetc(f)) != EOF && c != '\r' && c != '\n')
-            name[n++] = static_cast<char>(c);
+        if (!readTagLine(f, name))
+            name[0] = '\0';
         fclose(f);
     }
+    name[strcspn(name, "\r\n")] = '\0';
     return strdup(name);
 }
 
@@ -495,6 +497,22 @@ _listModel* findModelPanel(_listModel* list, const char* name)
 {
     for (; list != nullptr && name != nullptr; list = list->next)
         if (list->name != nullptr && strcmp(list->name, name) == 0)
+            return list;
+    return nullptr;
+}
+
+_listBrand* findBrandDir(_listBrand* list, const char* dir)
+{
+    for (; list != nullptr && dir != nullptr; list = list->next)
+        if (list->dir != nullptr && strcmp(list->dir, dir) == 0)
+            return list;
+    return nullptr;
+}
+
+_listModel* findModelFile(_listModel* list, const char* file)
+{
+    for (; list != nullptr && file != nullptr; list = list->next)
+        if (list->file != nullptr && strcmp(list->file, file) == 0)
             return list;
     return nullptr;
 }

@@ -43,6 +43,10 @@ _listBrand* addBrandNode(_listBrand* list, const char* dir);
 _listModel* addModelNode(_listModel* list, const char* file);
 _listBrand* findBrandPanel(_listBrand* list, const char* name);
 _listModel* findModelPanel(_listModel* list, const char* name);
+// The node by its directory or file, which names it alone: two brands or two
+// models may bear the same name, or a name that is not valid UTF-8, or none.
+_listBrand* findBrandDir(_listBrand* list, const char* dir);
+_listModel* findModelFile(_listModel* list, const char* file);
 _listBrand* closeListBrandPanel(_listBrand* list);
 _listModel* closeListModelBrand(_listModel* list);
 

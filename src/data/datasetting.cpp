@@ -54,47 +54,47 @@ static void takeConfigValue(_configParam* c, const char* key, const char* value)
             if (strcmp(code, languageCodes[i]) == 0)
                 c->lang = static_cast<_language>(i);
     } else if (strcmp(key, "ADCI") == 0) {
-        c->adci0 = static_cast<float>(atof(value));
+        c->adci0 = static_cast<float>(cAtof(value));
         c->adci1 = c->adci0 + c->adci0;
         c->adci0offset = 0;
         c->adci1offset = 0;
     } else if (strcmp(key, "ADCV") == 0) {
-        c->adcv0 = static_cast<float>(atof(value));
+        c->adcv0 = static_cast<float>(cAtof(value));
         c->adcv1 = c->adcv0 + c->adcv0;
         c->adcv0offset = -0.002624f;
         c->adcv1offset = 0.147721f;
     } else if (strcmp(key, "ADCI0") == 0) {
-        c->adci0 = static_cast<float>(atof(value));
+        c->adci0 = static_cast<float>(cAtof(value));
     } else if (strcmp(key, "ADCI1") == 0) {
-        c->adci1 = static_cast<float>(atof(value));
+        c->adci1 = static_cast<float>(cAtof(value));
     } else if (strcmp(key, "ADCI0OFFSET") == 0) {
         c->adci0offset = atoi(value);
     } else if (strcmp(key, "ADCI1OFFSET") == 0) {
         c->adci1offset = atoi(value);
     } else if (strcmp(key, "ADCV0") == 0) {
-        c->adcv0 = static_cast<float>(atof(value));
+        c->adcv0 = static_cast<float>(cAtof(value));
     } else if (strcmp(key, "ADCV1") == 0) {
-        c->adcv1 = static_cast<float>(atof(value));
+        c->adcv1 = static_cast<float>(cAtof(value));
     } else if (strcmp(key, "ADCV0OFFSET") == 0) {
-        c->adcv0offset = static_cast<float>(atof(value));
+        c->adcv0offset = static_cast<float>(cAtof(value));
     } else if (strcmp(key, "ADCV1OFFSET") == 0) {
-        c->adcv1offset = static_cast<float>(atof(value));
+        c->adcv1offset = static_cast<float>(cAtof(value));
     } else if (strcmp(key, "TMMOD") == 0) {
-        c->tmmod = static_cast<float>(atof(value));
+        c->tmmod = static_cast<float>(cAtof(value));
     } else if (strcmp(key, "TOMOD") == 0) {
-        c->tomod = static_cast<float>(atof(value));
+        c->tomod = static_cast<float>(cAtof(value));
     } else if (strcmp(key, "TMENV") == 0) {
-        c->tmenv = static_cast<float>(atof(value));
+        c->tmenv = static_cast<float>(cAtof(value));
     } else if (strcmp(key, "TOENV") == 0) {
-        c->toenv = static_cast<float>(atof(value));
+        c->toenv = static_cast<float>(cAtof(value));
     } else if (strcmp(key, "KPYRA") == 0) {
-        c->kpyra = static_cast<float>(atof(value));
+        c->kpyra = static_cast<float>(cAtof(value));
     } else if (strcmp(key, "CPYAR") == 0) {
-        c->cpyar = static_cast<float>(atof(value));
+        c->cpyar = static_cast<float>(cAtof(value));
     } else if (strcmp(key, "IRRMIN") == 0) {
-        c->irrmin = static_cast<float>(atof(value));
+        c->irrmin = static_cast<float>(cAtof(value));
     } else if (strcmp(key, "UTEMP") == 0) {
-        c->utemp = static_cast<float>(atof(value));
+        c->utemp = static_cast<float>(cAtof(value));
     } else if (strcmp(key, "TPROBE") == 0) {
         c->tprobe = static_cast<_probeTemp>(atoi(value));
     } else if (strcmp(key, "REMOTE") == 0) {
@@ -107,7 +107,10 @@ static void takeConfigValue(_configParam* c, const char* key, const char* value)
         else
             strcpy(c->bluemac, value);
     } else if (strcmp(key, "BLUENAME") == 0) {
-        if (strlen(value) > 59)
+        // the old reader replaced a name of 60 characters, which the
+        // settings screen accepts, by the default at the next start: stored
+        // data is never lost, the name keeps its 60 characters
+        if (strlen(value) > BLUENAME_SIZE - 1)
             strcpy(c->bluename, DEFAULT_BLUENAME);
         else
             strcpy(c->bluename, value);

@@ -28,6 +28,13 @@ const uint8_t configRegister = 0x10;
 const uint8_t statusRead[2] = {0x40, 0x00};
 const uint8_t dataRead[3] = {0x58, 0x00, 0x00};
 const uint8_t rdyBit = 0x80;
+// Status reads before a conversion that has not become ready is given up as a
+// failed transfer. A status read of two bytes at 4 MHz takes about 0.1 ms on
+// the instrument's bus, so 10000 polls last about a second: eight times the
+// slowest conversion of the set-up (the first one on a new channel, twice the
+// 60 ms of FS 9). The bound counts polls, not time, so it is the same at any
+// pace of the clock. The old instrument trusted RDY and polled for ever.
+const int maxReadyPolls = 10000;
 
 } // namespace
 
@@ -101,7 +108,11 @@ int read_probe(int fd, _probe probe)
         Clock::usleep(100);
         bool ready = false;
         bool failed = false;
-        while (!ready && !failed) {
+        for (int poll = 0; !ready && !failed; poll++) {
+            if (poll == maxReadyPolls) {
+                failed = true;
+                break;
+            }
             uint8_t status[2] = {0, 0};
             failed = Bus::spiTransfer(fd, statusRead, status, sizeof statusRead) < 0;
             ready = (status[1] & rdyBit) == 0;
@@ -172,6 +183,12 @@ float irradiationAcquire(char* ok)
     Bus::close(fd);
     *ok = count != 0;
     float value = calc_irr(static_cast<unsigned int>(count));
+    // A value that is not a number (a scale of 0 in the settings) is a failed
+    // reading: the last value stands and is not replaced by it.
+    if (!std::isfinite(value)) {
+        *ok = 0;
+        return irr_old;
+    }
     if (value < 0.01)
         *ok = 0;
     irr_old = value;
@@ -200,6 +217,13 @@ float temperatureAcquire(char* ok, float gain, float offset)
     // 65535 is what an open probe reads.
     *ok = pt100 != 65535;
     float value = pt100Temperature(reference, pt100, gain, offset);
+    // A reference count of 0 (a failed transfer) gives no number: the old
+    // instrument stored it and, as no comparison holds for it, called it good.
+    // It is a failed reading; the last value stands and is not replaced.
+    if (!std::isfinite(value)) {
+        *ok = 0;
+        return temperature_old;
+    }
     temperature_old = value;
     if (value < -10.0)
         *ok = 0;

@@ -14,7 +14,8 @@ enum _probe : int { AD_REFERENCE = 0, AD_PT100 = 1, AD_PYRANO = 2, AD_BATTERY = 
 int init_ad7795();
 // A descriptor set to SPI mode 3, 8 bits, 4 MHz, or -1.
 int open_ad7795();
-// One conversion, 0 to 65535, or 0 when a transfer fails.
+// One conversion, 0 to 65535, or 0 when a transfer fails or the chip does not
+// become ready within its bound of status reads.
 int read_probe(int fd, _probe probe);
 
 // Converter scale, counts per mV of input at gain 1 (configuration "kpyra").

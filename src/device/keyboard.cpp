@@ -1,5 +1,6 @@
 #include "device/keyboard.h"
 
+#include "device/keyfront.h"
 #include "platform/bus.h"
 #include "platform/clock.h"
 
@@ -18,12 +19,12 @@ const int gpio_key_code[GPIO_KEYS] = {
     Qt::Key_Escape, Qt::Key_Up, Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Down, Qt::Key_Tab,
 };
 
-namespace {
+namespace
+{
 
 int keyboard_open = 0;
 int fd_gpio_key[GPIO_KEYS] = {0, 0, 0, 0, 0, 0};
 
-const int keyReturn = 3;
 const int pollMs = 200;
 
 } // namespace
@@ -66,9 +67,11 @@ int getGpioKey(int index, int* value)
     return Bus::gpioRequest(fd_gpio_key[index], Bus::GPIO_READ, value);
 }
 
-GpioKeyboard::GpioKeyboard(QWidget* parent) : QWidget(parent), timer(nullptr)
+GpioKeyboard::GpioKeyboard(QWidget* parent, bool plainWalk)
+    : QWidget(parent), timer(nullptr), plainWalk(plainWalk)
 {
     setObjectName("GPIOKeyboard");
+    KeyFront::install();
     if (isKeyOpened() == 0)
         initKeyGpio();
     timer = new QTimer(this);
@@ -79,21 +82,33 @@ GpioKeyboard::GpioKeyboard(QWidget* parent) : QWidget(parent), timer(nullptr)
 void GpioKeyboard::slotKey()
 {
     timer->stop();
-    int pressed = -1;
-    for (int i = 0; i < GPIO_KEYS && pressed < 0; i++) {
-        // A line that cannot be read counts as a key at rest.
-        int level = 1;
-        if (getGpioKey(i, &level) >= 0 && level == 0)
-            pressed = i;
-    }
-    if (pressed >= 0) {
-        QKeyEvent press(QEvent::KeyPress, gpio_key_code[pressed], Qt::NoModifier, QString(),
-                        false, 1);
-        QCoreApplication::sendEvent(this, &press);
-        if (pressed == keyReturn && !press.isAccepted()) {
-            QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QString(), false, 1);
-            QCoreApplication::sendEvent(this, &space);
+    // a window behind the one in front does not even look at the lines
+    if (KeyFront::serves(this)) {
+        int pressed = -1;
+        for (int i = 0; i < GPIO_KEYS && pressed < 0; i++) {
+            // A line that cannot be read counts as a key at rest.
+            int level = 1;
+            if (getGpioKey(i, &level) >= 0 && level == 0)
+                pressed = i;
         }
+        if (pressed >= 0)
+            deliver(gpio_key_code[pressed]);
     }
     Clock::start(timer, pollMs);
+}
+
+void GpioKeyboard::deliver(int key)
+{
+    if (KeyFront::take(this, key, plainWalk))
+        return;
+    if (plainWalk && key == Qt::Key_Up)
+        key = Qt::Key_Backtab;
+    else if (plainWalk && key == Qt::Key_Down)
+        key = Qt::Key_Tab;
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(), false, 1);
+    QCoreApplication::sendEvent(this, &press);
+    if (key == Qt::Key_Return && !press.isAccepted()) {
+        QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QString(), false, 1);
+        QCoreApplication::sendEvent(this, &space);
+    }
 }

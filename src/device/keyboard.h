@@ -29,18 +29,24 @@ int getGpioKey(int index, int* value);
 // of a dialog, it polls the key lines every 200 ms and sends one key press per
 // tick, which climbs the parent chain like any ignored key event. A Return
 // that nobody accepts is followed by a Space, which presses a focused button.
+// It serves its window only while that window is in front (KeyFront); lists,
+// combos and popups take their keys before the window does. With the plain
+// walk (the poller KeyFront gives a dialog without one) Up and Down move the
+// focus as Backtab and Tab do.
 class GpioKeyboard : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit GpioKeyboard(QWidget* parent);
+    explicit GpioKeyboard(QWidget* parent, bool plainWalk = false);
 
 public slots:
     void slotKey();
 
 private:
+    void deliver(int key);
     QTimer* timer;
+    bool plainWalk;
 };
 
 #endif

@@ -220,7 +220,7 @@ int mem_cMemRow::sendData(int fd)
     char command[4] = {0x03, static_cast<char>(address & 0xFF),
                        static_cast<char>((address >> 8) & 0xFF),
                        static_cast<char>((address >> 16) & 0xFF)};
-    for (;;) {
+    for (int send = 0; send < maxRowSends; send++) {
         UlWriteSerialBlock(fd, command, 4);
         UlWriteSerialBlock(fd, buffer, rowSize * 3);
         char answer = 0;
@@ -231,6 +231,8 @@ int mem_cMemRow::sendData(int fd)
         if (answer == 0x01)
             return 1;
     }
+    printf("%s refused\n", "sendData");
+    return -1;
 }
 
 MemRows createMemRows(eFamily family)

@@ -60,9 +60,14 @@ public:
     // empty row.
     void formatData();
     // Sends a program row to the loader and waits for its 0x01, sending it
-    // again after any other answer. Empty, EEPROM and configuration rows are
-    // not sent and count as done. 1 when done, 0 when no answer came.
+    // again after any other answer, at most maxRowSends times in all. Empty,
+    // EEPROM and configuration rows are not sent and count as done. 1 when
+    // done, 0 when no answer came, -1 when every send was refused.
     int sendData(int fd);
+
+    // Sends of one row before a loader that keeps refusing it is given up.
+    // The old instrument sent a refused row again for ever.
+    static constexpr int maxRowSends = 10;
 
     char* buffer;      // the row packed for sending
     unsigned address;  // first address, in 16-bit words

@@ -30,8 +30,11 @@ namespace {
 const unsigned int shortTimeoutMs = 1000;
 const unsigned int rampTimeoutMs = 10000;
 const char separatorLF = 10;
-// Reply buffer of the first-generation ramps.
-const int rampReplySize = 2650;
+// Reply buffer of the first-generation ramps: the longest legal reply, 512
+// lines of two 12-bit counts ("4095\t4095" and its line end, CR turned into
+// LF), about 5.6 KB, with room to spare. The old instrument's 2650 bytes were
+// overrun by a legal reply of 512 points.
+const int rampReplySize = RAMP_POINTS * static_cast<int>(sizeof "4095\t4095\r\n");
 // Reply buffer of the single values and of the version.
 const int valueReplySize = 256;
 const int brask_points = 128;
@@ -311,7 +314,7 @@ _pdError PowerDevice::acquireTempHSink(float* temperature)
     char reply[valueReplySize];
     _pdError error = exchangeValue(power_cmd[12], reply, sizeof reply);
     if (error == PD_OK)
-        std::sscanf(reply, "%f", temperature);
+        cSscanf(reply, "%f", temperature); // numbers on the wire speak C
     else
         *temperature = 0;
     return error;

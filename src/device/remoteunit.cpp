@@ -7,6 +7,7 @@
 #include "platform/command.h"
 #include "platform/systemroot.h"
 
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -61,7 +62,10 @@ int RemoteUnit::connect()
         }
         settingPort();
     } else if (link == LINK_BLUETOOTH) {
-        std::string start = std::string("/usr/bin/krmhci.sh start ") + config.bluemac;
+        // The address is whatever 17 characters the settings took: one
+        // argument of the script, never a command of its own.
+        std::string start =
+            std::string("/usr/bin/krmhci.sh start ") + Command::quote(config.bluemac);
         Command::system(start.c_str());
         for (int attempt = 0; attempt < 4; attempt++) {
             fd = ::open(SystemRoot::path("/dev/rfcomm0").c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK);
@@ -117,12 +121,29 @@ int RemoteUnit::isConnect()
     return 0;
 }
 
+namespace
+{
+
+// A value that is not a number (a dead first-generation unit reads 0 / 0, a
+// second-generation unit may answer "nan") is a failed reading: 0 and not ok,
+// as for the unit's other failures. The old instrument called it good.
+float finiteReading(float value, char* ok)
+{
+    if (std::isfinite(value))
+        return value;
+    *ok = 0;
+    return 0;
+}
+
+} // namespace
+
 float RemoteUnit::getPirano(char* ok)
 {
     *ok = 0;
     if (fd < 0)
         return 0;
-    return version2 == 1 ? getPiranoRemoteVersion2(ok) : getPiranoRemoteVersion1(ok);
+    return finiteReading(version2 == 1 ? getPiranoRemoteVersion2(ok) : getPiranoRemoteVersion1(ok),
+                         ok);
 }
 
 float RemoteUnit::getTempModulo(char* ok)
@@ -130,7 +151,7 @@ float RemoteUnit::getTempModulo(char* ok)
     *ok = 0;
     if (fd < 0)
         return 0;
-    return version2 == 1 ? getTempModuloVersion2(ok) : getTempModuloVersion1(ok);
+    return finiteReading(version2 == 1 ? getTempModuloVersion2(ok) : getTempModuloVersion1(ok), ok);
 }
 
 float RemoteUnit::getTempAmbiente(char* ok)
@@ -138,7 +159,8 @@ float RemoteUnit::getTempAmbiente(char* ok)
     *ok = 0;
     if (fd < 0)
         return 0;
-    return version2 == 1 ? getTempAmbienteVersion2(ok) : getTempAmbienteVersion1(ok);
+    return finiteReading(version2 == 1 ? getTempAmbienteVersion2(ok) : getTempAmbienteVersion1(ok),
+                         ok);
 }
 
 void RemoteUnit::settingPort()
@@ -171,7 +193,7 @@ void RemoteUnit::sendTon(bool on)
 void RemoteUnit::sendSensPyrano()
 {
     char text[64];
-    std::snprintf(text, sizeof text, remote_cmd[REMOTE_PYSENS], static_cast<double>(sensPyrano));
+    cSnprintf(text, sizeof text, remote_cmd[REMOTE_PYSENS], static_cast<double>(sensPyrano));
     writeUsbPort(text);
     Clock::sleep(1);
 }
@@ -285,7 +307,7 @@ float RemoteUnit::temperatureVersion1(_remoteCmd probe, char* ok)
     int reference = std::atoi(reply);
     *ok = level != 65535 ? 1 : 0;
     // Neither gain nor offset here. A dead line gives 0 / 0: not a number,
-    // and still ok, as it always has.
+    // which the public readers turn into a failed reading.
     float ratio = static_cast<float>(level) / static_cast<float>(reference);
     float value = static_cast<float>((static_cast<double>(ratio) - 1.0) * 100.0 / 0.385);
     if (value < -10.0f)
@@ -313,7 +335,7 @@ float RemoteUnit::valueVersion2(_remoteCmd command, const char* format, char* ok
         return 0; // the unit has no value
     *ok = 1;
     float value = 0;
-    std::sscanf(reply, format, &value);
+    cSscanf(reply, format, &value); // numbers on the wire speak C
     return value;
 }
 

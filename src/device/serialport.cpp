@@ -130,7 +130,14 @@ int SerialPort::writeReadSerialPort(const char* command, char* data, int dataSiz
     int replyCount = 0;
     if (readSerialPort(reply, replySize, &replyCount, error, timeoutMs, progress) == 0)
         return -1;
-    return takeEchoedData(reply, replyCount, command, data, dataSize, count, separator);
+    int result = takeEchoedData(reply, replyCount, command, data, dataSize, count, separator);
+    // The board's replies are text. A NUL byte behind the echo ends that text:
+    // the status line behind it is not found and the reply is not good, even
+    // when the line went on to "ERROR 0". Noise before the echo, NULs included,
+    // is only dropped with the rest of what precedes the echo.
+    if (result == 1 && nulBehindEcho(reply, replyCount, command))
+        *error = -1;
+    return result;
 }
 
 int appendSerialReply(SerialReply* reply, const char* bytes, int n)
@@ -158,6 +165,17 @@ int cutStatusLine(char* buffer, int* count)
     *count = static_cast<int>(status - buffer);
     *status = '\0';
     return error;
+}
+
+bool nulBehindEcho(const char* reply, int replyCount, const char* command)
+{
+    size_t length = std::strlen(command);
+    size_t total = static_cast<size_t>(replyCount < 0 ? 0 : replyCount);
+    const char* echo = static_cast<const char*>(memmem(reply, total, command, length));
+    if (echo == nullptr)
+        return false;
+    const char* from = echo + length;
+    return std::memchr(from, '\0', static_cast<size_t>(reply + total - from)) != nullptr;
 }
 
 int takeEchoedData(const char* reply, int replyCount, const char* command, char* data,

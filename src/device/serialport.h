@@ -40,9 +40,10 @@ public:
                        QProgressDialog* progress);
     // One exchange: writes command, reads the reply, hands the data behind the
     // echo of the command to data (dataSize bytes with the NUL), CR turned
-    // into separator when it lies in 7..14. 1 when the echo was found, -1 when
-    // not; the failing result of writeSerialPort when the command could not be
-    // written (error then stays as it was).
+    // into separator when it lies in 7..14. A NUL byte behind the echo ends the
+    // reply's text before its status line: error then becomes -1. 1 when the echo was found, -1
+    // when not; the failing result of writeSerialPort when the command could not be written (error
+    // then stays as it was).
     int writeReadSerialPort(const char* command, char* data, int dataSize, int* count, int* error,
                             char separator, unsigned int timeoutMs, QProgressDialog* progress);
 
@@ -72,6 +73,10 @@ int appendSerialReply(SerialReply* reply, const char* bytes, int n);
 // there is none (or no number behind it). count becomes the bytes before the
 // cut. Stray NUL bytes on the line are bytes like any other here.
 int cutStatusLine(char* buffer, int* count);
+
+// True when the replyCount bytes of the reply (its status line already cut)
+// hold the command's echo and a NUL byte somewhere behind it.
+bool nulBehindEcho(const char* reply, int replyCount, const char* command);
 
 // Finds the whole command text in the replyCount bytes of the reply and
 // copies what follows it to data (at most dataSize - 1 bytes and a NUL), CR

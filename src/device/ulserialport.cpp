@@ -80,14 +80,14 @@ int UlReadSerialData(int fd, char* buffer, int length)
     for (;;) {
         int n = 0;
         if (UlReadAtomicSerialPort(fd, piece, &n) < 0) {
-            if (++timeouts > UL_READ_TIMEOUTS)
+            if (++timeouts >= UL_READ_TIMEOUTS)
                 break;
             continue;
         }
         if (n == 0) {
             // Readable with nothing in it: the far end has gone. Counts as a
             // wait that ran out, so a dead line ends like a silent one.
-            if (++timeouts > UL_READ_TIMEOUTS)
+            if (++timeouts >= UL_READ_TIMEOUTS)
                 break;
             continue;
         }

@@ -7,8 +7,11 @@
 // baud, raw bytes. The loader's protocol has no text and no end marker: every
 // answer has a known length, so a read waits for exactly that many bytes.
 
-// Times the one second wait may run out before UlReadSerialData gives up.
-#define UL_READ_TIMEOUTS 2000
+// Times the one second wait may run out before UlReadSerialData gives up: a
+// read of the loader ends after 10 s of silence at most. The old instrument
+// waited 2000 of them (over half an hour) per read, and the greeting 2000
+// reads long.
+#define UL_READ_TIMEOUTS 10
 // Bytes a loader may send beyond the length asked for before the read is
 // given up as hopeless (a line that never goes quiet would never time out).
 #define UL_READ_OVERRUN 65536L
@@ -29,7 +32,7 @@ bool UlWriteSerialBlock(int fd, const char* data, int length);
 int UlReadAtomicSerialPort(int fd, char* buffer, int* count);
 // Reads until exactly length bytes have come: 1. The first length bytes go to
 // buffer. Bytes past the length make the count miss and end in the time-outs,
-// as on the instrument. After more than UL_READ_TIMEOUTS time-outs, or when
+// as on the instrument. After UL_READ_TIMEOUTS time-outs, or when
 // the line keeps talking UL_READ_OVERRUN bytes past the length, it prints
 // "-- UlReadSerialData : timeout expired --" and gives 0.
 int UlReadSerialData(int fd, char* buffer, int length);

@@ -1,6 +1,7 @@
 #include "measure/dialogdatielettrici.h"
 
 #include "device/keyboard.h"
+#include "toolkit/numbertext.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -43,10 +44,7 @@ DialogDatiElettrici::DialogDatiElettrici(QWidget* parent, bool stc, _meaType typ
 
 QString DialogDatiElettrici::valueText(float value, int decimals)
 {
-    QString text = QString::number(static_cast<double>(value), 'f', decimals);
-    if (text.contains("nan") || text.contains("inf"))
-        return "----";
-    return text;
+    return storedNumberText(value, decimals);
 }
 
 QString DialogDatiElettrici::fillFactorText(float value)

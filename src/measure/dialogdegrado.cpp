@@ -2,6 +2,7 @@
 
 #include "toolkit/embkeyboard.h"
 #include "toolkit/messagebox.h"
+#include "toolkit/numbertext.h"
 
 #include <QEvent>
 #include <QFormLayout>
@@ -19,9 +20,9 @@ DialogDegrado::DialogDegrado(QWidget* parent, _meaType type)
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
     setWindowTitle(type == MEA_PANEL ? tr("Degrado Modulo") : tr("Degrado Stringa"));
 
-    yearsEdit = new QLineEdit(QString::number(static_cast<double>(_years), 'f', 0), this);
+    yearsEdit = new QLineEdit(storedNumberText(_years, 0), this);
     yearsEdit->setObjectName("years");
-    percentEdit = new QLineEdit(QString::number(static_cast<double>(_percent), 'f', 2), this);
+    percentEdit = new QLineEdit(storedNumberText(_percent, 2), this);
     percentEdit->setObjectName("percent");
     yearsEdit->installEventFilter(this);
     percentEdit->installEventFilter(this);
@@ -70,8 +71,9 @@ void DialogDegrado::editLineObject(QObject* obj)
     keyboard->toKeyPad();
     if (keyboard->exec() == QDialog::Accepted) {
         QString text = keyboard->stringEntered();
-        bool ok = false;
-        float value = text.toFloat(&ok);
+        // a typed "nan" or "inf" used to pass the bounds: a number is a number
+        float value = 0;
+        bool ok = finiteNumber(text, &value);
         if (obj == yearsEdit) {
             if (!ok || value < 0) {
                 box->setWindowTitle(tr("Degrado Anni"));

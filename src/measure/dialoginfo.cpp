@@ -1,5 +1,6 @@
 #include "measure/dialoginfo.h"
 
+#include "data/storedtext.h"
 #include "toolkit/embkeyboard.h"
 #include "toolkit/messagebox.h"
 
@@ -12,10 +13,12 @@
 #include <QVBoxLayout>
 #include <cstring>
 
+// The old copy kept 255 bytes, so a comment of 255 characters lost its tail
+// (and could end inside a character): the copy holds 255 characters whole.
 static void copyText(char* field, const QString& text)
 {
-    QByteArray bytes = text.toLocal8Bit();
-    size_t n = qMin(static_cast<size_t>(bytes.size()), static_cast<size_t>(255));
+    QByteArray bytes = textToStore(text.left(255));
+    size_t n = qMin(static_cast<size_t>(bytes.size()), static_cast<size_t>(TEXT_COPY_SIZE - 1));
     memcpy(field, bytes.constData(), n);
     field[n] = '\0';
 }
@@ -69,8 +72,8 @@ void DialogInfo::resetParameters()
     QDateTime now = QDateTime::currentDateTime();
     copyText(_date, now.toString("yyyy/MM/dd"));
     copyText(_time, now.toString("HH:mm:ss"));
-    dateEdit->setText(QString::fromLocal8Bit(_date));
-    timeEdit->setText(QString::fromLocal8Bit(_time));
+    dateEdit->setText(storedText(_date));
+    timeEdit->setText(storedText(_time));
     commentEdit->setText(initialComment);
     saveButton->setEnabled(true);
 }

@@ -15,9 +15,9 @@ class DialogInfo : public QDialog
 public:
     DialogInfo(QWidget* parent, _typeDialog type, QString comment);
 
-    char _date[256];
-    char _time[256];
-    char _comment[256];
+    char _date[TEXT_COPY_SIZE];
+    char _time[TEXT_COPY_SIZE];
+    char _comment[TEXT_COPY_SIZE];
 
 public slots:
     void editLineObject(QObject* obj);

@@ -10,8 +10,28 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+namespace
+{
+
+int openNow = 0;
+int openedSoFar = 0;
+
+} // namespace
+
+bool DialogShutDown::isOpen()
+{
+    return openNow > 0;
+}
+
+int DialogShutDown::opened()
+{
+    return openedSoFar;
+}
+
 DialogShutDown::DialogShutDown(QWidget* parent) : QDialog(parent)
 {
+    openNow++;
+    openedSoFar++;
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
     setWindowTitle(tr("Batteria"));
     powerDeviceStart(1);
@@ -34,6 +54,7 @@ DialogShutDown::DialogShutDown(QWidget* parent) : QDialog(parent)
 
 DialogShutDown::~DialogShutDown()
 {
+    openNow--;
     powerDeviceStart(0);
 }
 

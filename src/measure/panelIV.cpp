@@ -3,8 +3,10 @@
 #include "data/datameasures.h"
 #include "data/datapanel.h"
 #include "data/datasetting.h"
+#include "data/storedtext.h"
 #include "device/ad7795.h"
 #include "device/gpiopd.h"
+#include "device/keyboard.h"
 #include "device/powerdevice.h"
 #include "device/remoteunit.h"
 #include "math/curvechain.h"
@@ -21,6 +23,7 @@
 #include "platform/clock.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
+#include "toolkit/numbertext.h"
 #include "toolkit/plotter.h"
 
 #include <QAction>
@@ -39,7 +42,8 @@
 #include <cstring>
 #include <limits>
 
-namespace {
+namespace
+{
 
 const float noValue = std::numeric_limits<float>::quiet_NaN();
 // The probe value of the automatic temperature mode, and what a temperature
@@ -53,12 +57,12 @@ PanelIV::PanelIV(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowTitleHint), _result(0),
       _degradoEnabled(false), _degradoYears(0), _degradoPercent(0), _temperature(noValue),
       _temperatureProbe(noValue), _irradiance(noValue), _irradianceProbe(noValue), _pmax(0),
-      _vmpp(0), _impp(0), _pmaxStc(noValue), _vmppStc(noValue), _imppStc(noValue),
-      _isc(noValue), _voc(noValue), _iscStc(noValue), _vocStc(noValue), _deltaPmax(noValue),
-      _measureDone(false), _powerRestored(false), _rsDone(false), _rs(0), _rsI1(0), _rsI2(0),
-      _stcValid(false), _temperatureValid(false), _irradianceValid(false),
-      _referenceChosen(false), _curveValid(false), _powerOpcShown(false),
-      _powerStcShown(false), _powerDevice(nullptr), _shutDownOpen(false)
+      _vmpp(0), _impp(0), _pmaxStc(noValue), _vmppStc(noValue), _imppStc(noValue), _isc(noValue),
+      _voc(noValue), _iscStc(noValue), _vocStc(noValue), _deltaPmax(noValue), _measureDone(false),
+      _powerRestored(false), _rsDone(false), _rs(0), _rsI1(0), _rsI2(0), _stcValid(false),
+      _temperatureValid(false), _irradianceValid(false), _referenceChosen(false),
+      _curveValid(false), _powerOpcShown(false), _powerStcShown(false), _powerDevice(nullptr),
+      _shutDownsSeen(DialogShutDown::opened()), _measureRunning(false)
 {
     setObjectName("PanelIV");
     readConfigFile(&_config);
@@ -145,10 +149,10 @@ PanelIV::PanelIV(QWidget* parent)
     _timerSupply = new QTimer(this);
     connect(_timerSupply, &QTimer::timeout, this, &PanelIV::displayPowerSupply);
     Clock::start(_timerSupply, 700);
-    // Never placed: the screen shows clock and supply on its own labels. The
-    // bar still brings the hardware keys to the screen.
-    _infoBar = new InfoBar(this);
-    _infoBar->hide();
+    // No status bar: the screen shows clock and supply on its own labels and
+    // polls the supply itself (a hidden bar polled it a second time and could
+    // open a second low-battery dialog). The hardware keys come from here.
+    new GpioKeyboard(this);
     displayClock();
 
     _buttonStart->setFocus();
@@ -165,8 +169,24 @@ PanelIV::~PanelIV()
 
 void PanelIV::measurePanel()
 {
+    // The board exchange and the boxes run event loops in which "Start" can be
+    // touched again: no measure starts inside another.
+    if (_measureRunning)
+        return;
+    _measureRunning = true;
+    struct Running {
+        bool* flag;
+        ~Running() { *flag = false; }
+    } running{&_measureRunning};
+
     QMessageBox box(this);
     QProgressDialog progress(tr("Misura Modulo..."), QString(), 0, 512, this, messageBoxFlags);
+    // Qt 6 starts a timer in the constructor that shows the dialog after its
+    // minimum duration, even with no setValue at all: a refused start would
+    // show it over the refusal's box. The old toolkit showed a progress
+    // dialog only on show() or once setValue had passed the minimum duration;
+    // reset() stops that timer and leaves those two ways.
+    progress.reset();
     progress.setObjectName("MeasureProgress");
     progress.setStyleSheet(progressStyle("blue"));
 
@@ -207,8 +227,14 @@ void PanelIV::measurePanel()
     }
     _powerDevice->acquireLastInfo(&_infoLast);
 
-    if (getProbeVar(false) != 0)
+    if (getProbeVar(false) != 0) {
+        // The ramps were cleared: an earlier measure can no longer be saved,
+        // or its figures would go to file with a ramp of zeros. The old
+        // instrument left "Salva" as it was here.
+        _measureDone = false;
+        _buttonSave->setEnabled(false);
         return;
+    }
     const float g2 = _irradianceProbe;
     _temperature = t1;
     _temperatureProbe = t1;
@@ -223,8 +249,8 @@ void PanelIV::measurePanel()
 
     measuredEndPoints(&_infoLast, &_config, &_isc, &_voc);
     _pmax = 0;
-    convertRamp(&_rawRamp, &_config, &_rampExact, &_ramp, &_pmax, &_vmpp, &_impp,
-                showConversion, &progress);
+    convertRamp(&_rawRamp, &_config, &_rampExact, &_ramp, &_pmax, &_vmpp, &_impp, showConversion,
+                &progress);
 
     _buttonStart->setChecked(false);
     _measureDone = true;
@@ -284,6 +310,7 @@ void PanelIV::failMeasure(QMessageBox* box, _pdError error)
         break;
     case PD_NO_REPLY:
         box->setIcon(QMessageBox::Critical);
+        notePowerRestored();
         if (_powerRestored) {
             // the low battery dialog cut the board's supply: a lost reply was expected
             box->setText(tr("Eseguito ripristino modulo potenza."));
@@ -313,6 +340,7 @@ int PanelIV::getProbeVar(bool showProgress)
 {
     QProgressDialog progress(tr("Acquisizione Misure Ambiente"), QString(), 0, 10, this,
                              messageBoxFlags);
+    progress.reset(); // stops the show timer of the constructor (see measurePanel)
     progress.setObjectName("EnvironmentProgress");
     if (showProgress) {
         progress.setStyleSheet(progressStyle("blue"));
@@ -344,7 +372,7 @@ int PanelIV::getProbeVar(bool showProgress)
         }
         RemoteUnit* unit = new RemoteUnit(_config.remote, 10.54f);
         bool connected = false;
-        for (int failures = 0; failures < 4 && !connected; ) {
+        for (int failures = 0; failures < 4 && !connected;) {
             connected = unit->connect() != 0;
             if (!connected) {
                 unit->disconnect();
@@ -386,8 +414,8 @@ int PanelIV::getProbeVar(bool showProgress)
         box.setText(tr("Irradiazione non rilevata."));
     } else if (showProgress && _irradianceProbe < _config.irrmin) {
         box.setWindowTitle(QString());
-        box.setText(tr("Irraggiamento insufficiente (< ") +
-                    QString::number(static_cast<double>(_config.irrmin), 'f', 2) + " W/m²)");
+        box.setText(tr("Irraggiamento insufficiente (< ") + storedNumberText(_config.irrmin, 2) +
+                    " W/m²)");
     } else {
         return 0;
     }
@@ -544,7 +572,7 @@ void PanelIV::goToReferencePanel()
     copyName(_modelName, dialog->_selectedModel->name);
     delete dialog;
     getPanelFeature(_brandDir, _modelFile, &_reference);
-    _plotter->setTitle(_title + " / " + QString::fromLocal8Bit(_modelName));
+    _plotter->setTitle(_title + " / " + storedText(_modelName));
     _referenceChosen = true;
     checkPanelOk();
 }
@@ -561,22 +589,22 @@ void PanelIV::goToPanelMea()
 
 void PanelIV::goToSavePanelAcquired()
 {
-    QMessageBox* box = newMessageBox(this, QMessageBox::Information, QString(),
-                                     tr("Misura Salvata."));
+    QMessageBox* box =
+        newMessageBox(this, QMessageBox::Information, QString(), tr("Misura Salvata."));
     DialogInfo* dialog = new DialogInfo(this, DLG_PANEL, _comment);
     if (dialog->exec() != QDialog::Accepted) {
         delete dialog;
         delete box;
         return;
     }
-    char date[256];
-    char time[256];
-    char comment[256];
+    char date[TEXT_COPY_SIZE];
+    char time[TEXT_COPY_SIZE];
+    char comment[TEXT_COPY_SIZE];
     std::memcpy(date, dialog->_date, sizeof date);
     std::memcpy(time, dialog->_time, sizeof time);
     std::memcpy(comment, dialog->_comment, sizeof comment);
-    date[255] = time[255] = comment[255] = '\0';
-    _comment = QString("%1").arg(QString::fromLocal8Bit(comment));
+    date[TEXT_COPY_SIZE - 1] = time[TEXT_COPY_SIZE - 1] = comment[TEXT_COPY_SIZE - 1] = '\0';
+    _comment = storedText(comment);
 
     _measure measure;
     std::memset(&measure, 0, sizeof measure);
@@ -645,14 +673,22 @@ void PanelIV::displayPowerSupply()
         _labelSupply->setPixmap(QPixmap(picture));
         return;
     }
-    // The timer goes on inside the dialog's loop: one dialog is enough.
-    if (_shutDownOpen)
+    // The timer goes on inside the dialog's loop, and the main menu's status
+    // bar polls too: one dialog in the program is enough, whoever opened it.
+    if (!DialogShutDown::isOpen()) {
+        DialogShutDown dialog(this);
+        dialog.exec();
+    }
+    notePowerRestored();
+}
+
+// A low-battery dialog, this screen's or the main menu's, cut the board's
+// supply: its next silence is expected.
+void PanelIV::notePowerRestored()
+{
+    if (DialogShutDown::opened() == _shutDownsSeen)
         return;
-    _shutDownOpen = true;
-    DialogShutDown dialog(this);
-    dialog.exec();
-    _shutDownOpen = false;
-    // the board was switched off and on: its next silence is expected
+    _shutDownsSeen = DialogShutDown::opened();
     _powerRestored = true;
 }
 

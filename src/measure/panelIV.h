@@ -6,7 +6,6 @@
 #include <QDialog>
 #include <QString>
 
-class InfoBar;
 class Plotter;
 class PowerDevice;
 class QAction;
@@ -52,10 +51,10 @@ public:
     float _isc, _voc;
     float _iscStc, _vocStc;
     float _deltaPmax;
-    char _modelFile[256];
-    char _brandDir[256];
-    char _modelName[256];
-    char _brandName[256];
+    char _modelFile[TEXT_COPY_SIZE];
+    char _brandDir[TEXT_COPY_SIZE];
+    char _modelName[TEXT_COPY_SIZE];
+    char _brandName[TEXT_COPY_SIZE];
     bool _measureDone;
     bool _powerRestored;
     bool _rsDone;
@@ -88,6 +87,7 @@ private:
     void getDegrado();
     bool getControlIrr(float before, float after);
     int getProbeVar(bool showProgress);
+    void notePowerRestored();
     void checkPanelOk();
     void readProbes(int rounds, int first, bool showProgress, class QProgressDialog* progress,
                     class RemoteUnit* unit);
@@ -111,8 +111,10 @@ private:
     QMenu* _menuMeasures;
     QTimer* _timerClock;
     QTimer* _timerSupply;
-    InfoBar* _infoBar;
-    bool _shutDownOpen;
+    // Low-battery dialogs already taken into account (DialogShutDown::opened)
+    int _shutDownsSeen;
+    // A measure is under way: a "Start" inside it is ignored
+    bool _measureRunning;
 };
 
 #endif

@@ -3,7 +3,10 @@
 #include "archive/editselpanel.h"
 #include "archive/newpanel.h"
 #include "data/datapanel.h"
+#include "data/storedtext.h"
 #include "toolkit/infobar.h"
+#include "toolkit/textfit.h"
+#include "toolkit/numbertext.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -25,8 +28,42 @@ QVBoxLayout* labelledList(const QString& label, QListWidget* list)
 
 QString featureRow(const char* name, float value, int decimals, const char* unit)
 {
-    return QString(name) + " \n" + QString::number(static_cast<double>(value), 'f', decimals) +
-           unit;
+    return QString(name) + " \n" + storedNumberText(value, decimals) + unit;
+}
+
+// The old screen kept only the names and looked the chosen one up by its
+// name again: of two brands or models of one name the first was taken, a
+// name that is not valid UTF-8 or a file without a name line was never
+// found, and "Conferma" could confirm another model than the one shown.
+// Each item keeps its brand's directory or its model's file, and every
+// lookup goes by that.
+void keyedItem(QListWidget* list, const char* name, const char* key)
+{
+    QListWidgetItem* item = new QListWidgetItem(storedText(name), list);
+    item->setData(Qt::UserRole, QByteArray(key));
+}
+
+QByteArray itemKey(const QListWidgetItem* item)
+{
+    return item->data(Qt::UserRole).toByteArray();
+}
+
+// All the characteristics stand in their list at once: in the largest font,
+// not above the screen's, in which every row fits the list's height, but not
+// below the smallest an operator reads.
+void fitAllRows(QListWidget* list, const QFont& screenFont)
+{
+    QFont font = screenFont;
+    int px = fontPixels(font);
+    while (true) {
+        list->setFont(font);
+        int height = 0;
+        for (int row = 0; row < list->count(); ++row)
+            height += list->sizeHintForRow(row);
+        if (height <= list->viewport()->height() || px <= MinTextPixels)
+            break;
+        font.setPixelSize(--px);
+    }
 }
 
 } // namespace
@@ -104,7 +141,7 @@ void ReferencePanel::readBrandPanel()
     if (_brandHead == nullptr)
         _listWidgetBrand->addItem(tr("Vuoto"));
     for (_listBrand* b = _brandHead; b != nullptr; b = b->next)
-        _listWidgetBrand->addItem(QString::fromLocal8Bit(b->name));
+        keyedItem(_listWidgetBrand, b->name, b->dir);
     _brandCursor = _brandHead;
 }
 
@@ -119,7 +156,7 @@ void ReferencePanel::showModel()
     _listWidgetFeature->clear();
     QListWidgetItem* item = _listWidgetBrand->currentItem();
     _listBrand* brand =
-        item == nullptr ? nullptr : findBrandPanel(_brandHead, item->text().toLocal8Bit().constData());
+        item == nullptr ? nullptr : findBrandDir(_brandHead, itemKey(item).constData());
     if (brand != nullptr) {
         _brandCursor = brand;
         std::memset(_brandDirName, 0, sizeof _brandDirName);
@@ -129,7 +166,7 @@ void ReferencePanel::showModel()
         if (_modelHead == nullptr)
             _listWidgetModel->addItem(tr("Vuoto"));
         for (_listModel* m = _modelHead; m != nullptr; m = m->next)
-            _listWidgetModel->addItem(QString::fromLocal8Bit(m->name));
+            keyedItem(_listWidgetModel, m->name, m->file);
     }
     _modelChosen = false;
     _buttonEdit->setEnabled(false);
@@ -144,7 +181,7 @@ void ReferencePanel::showCharacteristics()
     _listWidgetFeature->clear();
     QListWidgetItem* item = _listWidgetModel->currentItem();
     _listModel* model =
-        item == nullptr ? nullptr : findModelPanel(_modelHead, item->text().toLocal8Bit().constData());
+        item == nullptr ? nullptr : findModelFile(_modelHead, itemKey(item).constData());
     if (model == nullptr)
         return;
     _modelCursor = model;
@@ -156,9 +193,16 @@ void ReferencePanel::showCharacteristics()
     _listWidgetFeature->addItem(featureRow("Impp", _feature.impp, 2, " A"));
     _listWidgetFeature->addItem(featureRow("Voc", _feature.voc, 2, " V"));
     _listWidgetFeature->addItem(featureRow("Isc", _feature.isc, 2, " A"));
+    fitAllRows(_listWidgetFeature, font());
     _modelChosen = true;
     _buttonEdit->setEnabled(true);
     _buttonConfirm->setEnabled(true);
+}
+
+void ReferencePanel::resizeEvent(QResizeEvent* event)
+{
+    QDialog::resizeEvent(event);
+    fitAllRows(_listWidgetFeature, font());
 }
 
 void ReferencePanel::goToConfirmPanel()

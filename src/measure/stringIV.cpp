@@ -3,6 +3,7 @@
 #include "data/datameasures.h"
 #include "data/datapanel.h"
 #include "data/datasetting.h"
+#include "data/storedtext.h"
 #include "device/ad7795.h"
 #include "device/gpiopd.h"
 #include "device/keyboard.h"
@@ -23,6 +24,7 @@
 #include "platform/clock.h"
 #include "toolkit/infobar.h" // formatClock
 #include "toolkit/messagebox.h"
+#include "toolkit/numbertext.h"
 #include "toolkit/plotter.h"
 
 #include <QAction>
@@ -41,7 +43,8 @@
 #include <cstring>
 #include <limits>
 
-namespace {
+namespace
+{
 
 const float noValue = std::numeric_limits<float>::quiet_NaN();
 // The probe value of the automatic temperature mode, and what a temperature
@@ -60,7 +63,7 @@ StringIV::StringIV(QWidget* parent)
       _deltaPmax(noValue), _measureDone(false), _powerRestored(false), _stcValid(false),
       _temperatureValid(false), _irradianceValid(false), _referenceChosen(false),
       _curveValid(false), _powerOpcShown(false), _powerStcShown(false), _powerDevice(nullptr),
-      _shutDownOpen(false), _measuring(false)
+      _shutDownsSeen(DialogShutDown::opened()), _measureRunning(false)
 {
     setObjectName("StringIV");
     readConfigFile(&_config);
@@ -167,11 +170,11 @@ StringIV::~StringIV()
 // measure's own dialogs) is ignored.
 void StringIV::stringMeasure()
 {
-    if (_measuring)
+    if (_measureRunning)
         return;
-    _measuring = true;
+    _measureRunning = true;
     runMeasure();
-    _measuring = false;
+    _measureRunning = false;
 }
 
 void StringIV::runMeasure()
@@ -327,6 +330,7 @@ void StringIV::failMeasure(QMessageBox* box, _pdError error)
         break;
     case PD_NO_REPLY:
         box->setIcon(QMessageBox::Critical);
+        notePowerRestored();
         if (_powerRestored) {
             // the low battery dialog cut the board's supply: a lost reply was expected
             box->setText(tr("Eseguito ripristino modulo potenza."));
@@ -431,8 +435,8 @@ int StringIV::getProbeVar(bool showProgress)
         box.setText(tr("Irradiazione non rilevata."));
     } else if (showProgress && _irradianceProbe < _config.irrmin) {
         box.setWindowTitle(QString());
-        box.setText(tr("Irraggiamento insufficiente (< ") +
-                    QString::number(static_cast<double>(_config.irrmin), 'f', 2) + " W/m²)");
+        box.setText(tr("Irraggiamento insufficiente (< ") + storedNumberText(_config.irrmin, 2) +
+                    " W/m²)");
     } else {
         return 0;
     }
@@ -590,7 +594,7 @@ void StringIV::goToReferencePanel()
     copyName(_modelName, dialog->_selectedModel->name);
     delete dialog;
     getPanelFeature(_brandDir, _modelFile, &_reference);
-    _referenceModelName = QString::fromLocal8Bit(_modelName);
+    _referenceModelName = storedText(_modelName);
     titleReferencePanel();
     _referenceChosen = true;
     checkPanelOk();
@@ -617,14 +621,14 @@ void StringIV::goToSaveStringAcquired()
         delete box;
         return;
     }
-    char date[256];
-    char time[256];
-    char comment[256];
+    char date[TEXT_COPY_SIZE];
+    char time[TEXT_COPY_SIZE];
+    char comment[TEXT_COPY_SIZE];
     std::memcpy(date, dialog->_date, sizeof date);
     std::memcpy(time, dialog->_time, sizeof time);
     std::memcpy(comment, dialog->_comment, sizeof comment);
-    date[255] = time[255] = comment[255] = '\0';
-    _comment = QString("%1").arg(QString::fromLocal8Bit(comment));
+    date[TEXT_COPY_SIZE - 1] = time[TEXT_COPY_SIZE - 1] = comment[TEXT_COPY_SIZE - 1] = '\0';
+    _comment = storedText(comment);
 
     _measure measure;
     std::memset(&measure, 0, sizeof measure);
@@ -693,14 +697,22 @@ void StringIV::displayPowerSupply()
         _labelSupply->setPixmap(QPixmap(picture));
         return;
     }
-    // The timer goes on inside the dialog's loop: one dialog is enough.
-    if (_shutDownOpen)
+    // The timer goes on inside the dialog's loop, and the main menu's status
+    // bar polls too: one dialog in the program is enough, whoever opened it.
+    if (!DialogShutDown::isOpen()) {
+        DialogShutDown dialog(this);
+        dialog.exec();
+    }
+    notePowerRestored();
+}
+
+// A low-battery dialog, this screen's or the main menu's, cut the board's
+// supply: its next silence is expected.
+void StringIV::notePowerRestored()
+{
+    if (DialogShutDown::opened() == _shutDownsSeen)
         return;
-    _shutDownOpen = true;
-    DialogShutDown dialog(this);
-    dialog.exec();
-    _shutDownOpen = false;
-    // the board was switched off and on: its next silence is expected
+    _shutDownsSeen = DialogShutDown::opened();
     _powerRestored = true;
 }
 

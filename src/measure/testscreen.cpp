@@ -1,5 +1,6 @@
 #include "measure/testscreen.h"
 
+#include "data/coredata.h"
 #include "device/ad7795.h"
 #include "device/remoteunit.h"
 #include "math/utility.h"
@@ -42,9 +43,9 @@ QPushButton* barButton(const QString& text, const char* name, bool flat)
 
 void copyName(char* target, const char* source)
 {
-    std::memset(target, 0, 256);
+    std::memset(target, 0, TEXT_COPY_SIZE);
     if (source != nullptr)
-        std::strncpy(target, source, 255);
+        std::strncpy(target, source, TEXT_COPY_SIZE - 1);
 }
 
 void showConversion(void* context, int k)

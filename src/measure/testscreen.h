@@ -27,7 +27,7 @@ const char* supplyPicture(bool adapter, int level);
 // A button of the screen's bottom bar.
 QPushButton* barButton(const QString& text, const char* name, bool flat);
 
-// A 256-byte name field, zeroed, then filled from source (null leaves it empty).
+// A name field of TEXT_COPY_SIZE bytes, zeroed, then filled from source (null leaves it empty).
 void copyName(char* target, const char* source);
 
 // A progress callback of the ramp conversion: context is a QProgressDialog.

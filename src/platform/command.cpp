@@ -11,7 +11,7 @@ static bool isExecutable(const std::string& path)
     return access(path.c_str(), X_OK) == 0;
 }
 
-static std::string shellWord(const std::string& word)
+std::string Command::quote(const std::string& word)
 {
     bool plain = !word.empty();
     for (char c : word)
@@ -58,7 +58,7 @@ std::string Command::resolve(const char* commandLine)
     }
     if (found.empty() || found == word)
         return std::string(commandLine);
-    return std::string(commandLine, p) + shellWord(found) + end;
+    return std::string(commandLine, p) + quote(found) + end;
 }
 
 int Command::system(const char* commandLine)

@@ -11,10 +11,16 @@
 //     through the system root;
 //   - a bare name ("date", "hwclock", "pidof", "rm") is taken from
 //     <root>/usr/bin or <root>/bin when it is there, else left to the PATH.
-// The rest of the line is passed unchanged to /bin/sh.
+// The rest of the line is passed unchanged to /bin/sh: every text that does
+// not come from the program itself (a setting, a folder on a stick) goes into
+// it through quote(), so that it reaches the command as one argument and runs
+// nothing else.
 class Command
 {
 public:
+    // The word as one shell argument: as it is when it holds only plain
+    // characters, else in single quotes (a quote inside as '\'').
+    static std::string quote(const std::string& word);
     static std::string resolve(const char* commandLine);
     static int system(const char* commandLine);
     static FILE* popen(const char* commandLine, const char* mode);

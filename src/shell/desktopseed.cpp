@@ -68,6 +68,24 @@ bool copyCatalogues(const QString& from)
     return true;
 }
 
+// The start-up runs the device image's program "/home/myspi" before the menu;
+// the desktop instrument's does nothing, quietly. One already there stays.
+bool seedMyspi()
+{
+    const QString path = host("/home/myspi");
+    if (QFileInfo::exists(path))
+        return true;
+    QFile file(path);
+    if (!QDir().mkpath(host("/home")) || !file.open(QIODevice::WriteOnly) ||
+        file.write(
+            "#!/bin/sh\n# the device image's program: nothing to do on the desktop\nexit 0\n") < 0)
+        return false;
+    file.close();
+    return file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                               QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther |
+                               QFile::ExeOther);
+}
+
 bool databaseIsEmpty()
 {
     return QDir(host(DIR_DATA_PANEL)).entryList(QDir::Dirs | QDir::NoDotAndDotDot).isEmpty();
@@ -121,7 +139,7 @@ int seedDesktopRoot(const QString& catalogueDir)
         if (saveConfigFile(config) < 0)
             return -1;
     }
-    if (!copyCatalogues(catalogueDir))
+    if (!copyCatalogues(catalogueDir) || !seedMyspi())
         return -1;
     checkDirData();
     for (const char* dir : {DIR_DATA_PANEL, DIR_DATA_COMPANY, DIR_DATA_INSTALLATION,

@@ -6,7 +6,8 @@
 // The machine folder of the desktop instrument, made ready on first use under
 // the current system root: the settings with the instrument's defaults, the
 // compiled catalogues in /etc/flang (copied again each time, so a rebuild
-// reaches them), the five data directories and, in an empty module database,
+// reaches them), a "/home/myspi" that does nothing, the five data directories
+// and, in an empty module database,
 // a dozen data sheets of modules of several technologies. An existing
 // settings file and existing modules are left as they are.
 //

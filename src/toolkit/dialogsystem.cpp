@@ -1,6 +1,7 @@
 #include "toolkit/dialogsystem.h"
 
 #include "data/freespace.h"
+#include "data/storedtext.h"
 #include "device/powerdevice.h"
 #include "platform/clock.h"
 #include "platform/command.h"
@@ -8,6 +9,7 @@
 #include "toolkit/embkeyboard.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
+#include "toolkit/numbertext.h"
 
 #include <QEvent>
 #include <QComboBox>
@@ -73,10 +75,10 @@ DialogSystem::DialogSystem(_configParam* config, QWidget* parent) : QDialog(pare
     showUserTemperature();
     addRow(tr("Temperatura"), probeCombo, temperatureButton);
 
-    pyranoEdit = new QLineEdit(QString::number(static_cast<double>(_config.cpyar), 'f', 2), page);
+    pyranoEdit = new QLineEdit(storedNumberText(_config.cpyar, 2), page);
     pyranoEdit->setObjectName("pyrano");
     addRow(tr("Sens. Pyra"), pyranoEdit, new QLabel(QString::fromUtf8("mV/(kW/m²)"), page));
-    irrMinEdit = new QLineEdit(QString::number(static_cast<double>(_config.irrmin), 'f', 2), page);
+    irrMinEdit = new QLineEdit(storedNumberText(_config.irrmin, 2), page);
     irrMinEdit->setObjectName("irrmin");
     addRow(tr("Irraggiamento Minimo"), irrMinEdit, new QLabel(QString::fromUtf8("W/m² "), page));
 
@@ -84,10 +86,10 @@ DialogSystem::DialogSystem(_configParam* config, QWidget* parent) : QDialog(pare
     remoteCombo->addItems({tr("Locale"), tr("Rs-232 Serial Adapter"), tr("Bluetooth Adapter")});
     remoteCombo->setCurrentIndex(_config.remote);
     addRow(tr("Unità Remota"), remoteCombo);
-    blueMacButton = new QPushButton(QString::fromLocal8Bit(_config.bluemac), page);
+    blueMacButton = new QPushButton(storedText(_config.bluemac), page);
     blueMacButton->setObjectName("bluemac");
     addRow(tr("Bluetooth Address (MAC)"), blueMacButton);
-    blueNameButton = new QPushButton(QString::fromLocal8Bit(_config.bluename), page);
+    blueNameButton = new QPushButton(storedText(_config.bluename), page);
     blueNameButton->setObjectName("bluename");
     addRow(tr("Nome Dispositivo"), blueNameButton);
     blueMacButton->setEnabled(_config.remote == LINK_BLUETOOTH);
@@ -167,9 +169,9 @@ void DialogSystem::showUserTemperature()
 {
     bool manual = _config.tprobe == PROBE_MANUAL;
     temperatureButton->setEnabled(manual);
-    temperatureButton->setText(
-        manual ? QString::number(static_cast<double>(_config.utemp), 'f', 2) + QString::fromUtf8(" °C")
-               : QString::fromUtf8("--.-- °C"));
+    temperatureButton->setText(manual
+                                   ? storedNumberText(_config.utemp, 2) + QString::fromUtf8(" °C")
+                                   : QString::fromUtf8("--.-- °C"));
 }
 
 void DialogSystem::setLanguage(int index)
@@ -202,8 +204,10 @@ void DialogSystem::applyDateTime()
 {
     QString text = dateTimeEdit->text();
     text.replace("/", "-");
-    QByteArray command = QString("date -s +\"%1\"\n").arg(text).toLocal8Bit();
-    Command::system(command.constData());
+    // "+" and the text as one quoted argument, as the old "date -s +\"...\"".
+    std::string command =
+        "date -s " + Command::quote(QString("+%1").arg(text).toLocal8Bit().toStdString()) + "\n";
+    Command::system(command.c_str());
     Command::system("hwclock -w\n");
 }
 
@@ -233,7 +237,7 @@ static QString typeText(QWidget* parent, const QString& title, const QString& in
 void DialogSystem::insertBlueMac()
 {
     QString text = typeText(this, tr("Bluetooh MAC (formato AA:BB:CC:DD:EE:FF)"),
-                            QString::fromLocal8Bit(_config.bluemac), false);
+                            storedText(_config.bluemac), false);
     if (text.isNull())
         return;
     if (text.length() != 17) {
@@ -241,7 +245,7 @@ void DialogSystem::insertBlueMac()
                        tr("MAC deve essere formato da 48 bit."));
         return;
     }
-    QByteArray bytes = text.toLocal8Bit().left(BLUEMAC_SIZE - 1);
+    QByteArray bytes = textToStore(text).left(BLUEMAC_SIZE - 1);
     strcpy(_config.bluemac, bytes.constData());
     blueMacButton->setText(text);
 }
@@ -249,7 +253,7 @@ void DialogSystem::insertBlueMac()
 void DialogSystem::insertBlueName()
 {
     QString text = typeText(this, tr("Nome Dispositivo Remoto"),
-                            QString::fromLocal8Bit(_config.bluename), false);
+                            storedText(_config.bluename), false);
     if (text.isNull())
         return;
     QString title = tr("Bluetooth Nome Dispositivo Remoto");
@@ -261,7 +265,16 @@ void DialogSystem::insertBlueName()
         showMessageBox(this, QMessageBox::Information, title, tr("Il nome non può essere nullo."));
         return;
     }
-    QByteArray bytes = text.toLocal8Bit().left(BLUENAME_SIZE - 1);
+    // The name goes between double quotes into "/etc/bluetooth/rfcomm.conf":
+    // a quote, a semicolon, a backslash or a control character there could
+    // end the comment and add statements of its own.
+    for (QChar c : text) {
+        if (c == '"' || c == ';' || c == '\\' || c.category() == QChar::Other_Control) {
+            showMessageBox(this, QMessageBox::Information, title, tr("Nome non valido."));
+            return;
+        }
+    }
+    QByteArray bytes = textToStore(text).left(BLUENAME_SIZE - 1);
     strcpy(_config.bluename, bytes.constData());
     blueNameButton->setText(text);
 }
@@ -272,9 +285,9 @@ void DialogSystem::insertUserTemperature()
                             QString::number(static_cast<double>(_config.utemp), 'f', 2), true);
     if (text.isNull())
         return;
-    bool ok = false;
-    float value = text.toFloat(&ok);
-    if (!ok || value < -20.0f || value > 100.0f) {
+    // a typed "nan" or "inf" used to pass the bounds: a number is a number
+    float value = 0;
+    if (!finiteNumber(text, &value) || value < -20.0f || value > 100.0f) {
         showMessageBox(this, QMessageBox::Information, tr("Temperatura manuale"),
                        tr("Numero non valido."));
         return;
@@ -351,16 +364,16 @@ void DialogSystem::editLineObject(QObject* obj)
         field = &_config.irrmin;
     }
     if (edit != nullptr) {
-        if (*field != 0)
+        if (*field != 0 && std::isfinite(*field))
             keyboard->setInitString(QString::number(static_cast<double>(*field), 'f', 2));
         keyboard->toKeyPad();
         if (keyboard->exec() == QDialog::Accepted) {
             QString text = keyboard->stringEntered();
-            bool ok = false;
-            float value = text.toFloat(&ok);
-            if (!ok || value < low || value > high) {
-                box->setInformativeText(box->windowTitle() + " : " + QString::number(low) +
-                                        " - " + QString::number(high));
+            // a typed "nan" or "inf" used to pass the bounds, and the range
+            // was written "0 - 1e+06": a number is a number, in plain digits
+            float value = 0;
+            if (!finiteNumber(text, &value) || value < low || value > high) {
+                box->setInformativeText(box->windowTitle() + " : " + rangeText(low, high));
                 box->exec();
             } else {
                 *field = value;

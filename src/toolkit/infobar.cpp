@@ -104,13 +104,10 @@ void InfoBar::visualPowerSupply()
     }
     // The poll goes on inside the dialog's own event loop; one shut-down
     // dialog at a time is enough, however long the charger takes to come.
-    static bool shutDownOpen = false;
-    if (shutDownOpen)
+    if (DialogShutDown::isOpen())
         return;
-    shutDownOpen = true;
     DialogShutDown dialog(this);
     dialog.exec();
-    shutDownOpen = false;
 }
 
 QString InfoBar::clockText() const

@@ -1,5 +1,7 @@
 #include "toolkit/plotter.h"
 
+#include "toolkit/textfit.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -228,6 +230,7 @@ void Plotter::refreshPixmap()
     painter.setPen(palette().color(foregroundRole()));
     painter.setBackground(palette().brush(backgroundRole()));
     painter.setFont(font());
+    textFonts.clear();
     // No save and restore between the three: the tick pen that the grid
     // leaves on the painter is the pen of the title.
     drawGrid(&painter);
@@ -239,20 +242,25 @@ void Plotter::refreshPixmap()
 
 // The instrument's fonts are larger than some of the boxes the plot gives its
 // texts: a text that would not fit its box is drawn in the largest size that
-// does, so that no label is cut.
-static void drawTextInBox(QPainter* painter, const QRect& box, int flags, const QString& text)
+// does, but never below 11 pixels, the smallest an operator reads in the sun;
+// at 11 pixels a text that still does not fit passes its box rather than
+// being cut.
+void Plotter::drawTextInBox(QPainter* painter, const QRect& box, int flags, const QString& text)
 {
     const QFont former = painter->font();
     QFont font = former;
     int px = QFontInfo(font).pixelSize();
-    while (px > 6) {
+    bool fits = false;
+    while (true) {
         const QRect need = QFontMetrics(font, painter->device()).boundingRect(box, flags, text);
-        if (need.width() <= box.width() && need.height() <= box.height())
+        fits = need.width() <= box.width() && need.height() <= box.height();
+        if (fits || px <= MinTextPixels)
             break;
         font.setPixelSize(--px);
     }
     painter->setFont(font);
-    painter->drawText(box, flags, text);
+    painter->drawText(box, fits ? flags : flags | Qt::TextDontClip, text);
+    textFonts.append(font);
     painter->setFont(former);
 }
 
@@ -376,6 +384,8 @@ void Plotter::drawCurves(QPainter* painter)
         }
         painter->drawPolyline(run);
 
+        if (id >= 0 && id <= 5)
+            textFonts.append(painter->font());
         switch (id) {
         case 0: {
             offset = metrics.height() + 2;
@@ -555,6 +565,8 @@ void Plotter::resizeEvent(QResizeEvent* /*event*/)
     const int x = width() - (zoomInButton->width() + zoomOutButton->width() + 10);
     zoomInButton->move(x, 5);
     zoomOutButton->move(x + zoomInButton->width() + 5, 5);
-    fullScreenButton->move(x + zoomInButton->width() + 5, 35);
+    // Under "Out" with a gap of 5 pixels: the instrument's font makes the
+    // buttons taller than the old fixed height of 35 allowed.
+    fullScreenButton->move(x + zoomInButton->width() + 5, zoomOutButton->geometry().bottom() + 6);
     refreshPixmap();
 }

@@ -1,6 +1,7 @@
 #ifndef KRM_TOOLKIT_PLOTTER_H
 #define KRM_TOOLKIT_PLOTTER_H
 
+#include <QFont>
 #include <QMap>
 #include <QPixmap>
 #include <QPointF>
@@ -92,6 +93,9 @@ public slots:
     void zoomIn();
     void zoomOut();
 
+    // The fonts the texts of the last drawing were drawn in.
+    const QVector<QFont>& drawnTextFonts() const { return textFonts; }
+
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -107,6 +111,7 @@ private:
     void drawGrid(QPainter* painter);
     void drawTitle(QPainter* painter);
     void drawCurves(QPainter* painter);
+    void drawTextInBox(QPainter* painter, const QRect& box, int flags, const QString& text);
 
     QString plotTitle;
     QToolButton* zoomInButton;
@@ -119,6 +124,7 @@ private:
     QPixmap pixmap;
     QToolButton* fullScreenButton;
     bool viewPassTest;
+    QVector<QFont> textFonts;
 };
 
 #endif

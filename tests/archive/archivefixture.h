@@ -17,7 +17,8 @@
 #include <QtTest>
 #include <cstring>
 
-namespace archive {
+namespace archive
+{
 
 inline bool emptyDatabase(const TestRoot& root)
 {
@@ -134,25 +135,32 @@ inline QString focusStep(SimInstrument& sim, const char* key)
 // An action for the next modal window of the class named: the archive's
 // screens read the brands first, and the progress dialog of that read is a
 // modal window too; any other window is passed over and the action waits on.
-inline std::function<void(QWidget*)> screenAction(ModalDriver& driver, const char* className,
-                                                  std::function<void(QWidget*)> action)
-{
-    return [&driver, className, action](QWidget* w) {
-        if (!w->inherits(className)) {
-            driver.onNext(screenAction(driver, className, action));
-            return;
-        }
-        action(w);
-    };
-}
-
 inline void onScreen(ModalDriver& driver, const char* className,
                      std::function<void(QWidget*)> action)
 {
-    driver.onNext(screenAction(driver, className, action));
+    driver.onWindow(className, action);
 }
 
 // Closes the brand list of a screen's caller at the end of a test.
+// Two models of one name, "Twin", in the files twin_a (200 W) and twin_b (300 W).
+inline bool twinModels()
+{
+    return addModel("Solar", "solar", "Twin", "twin_a", sheet(200, 30, 8, 37, 8.5f)) &&
+           addModel("Solar", "solar", "Twin", "twin_b", sheet(300, 30, 8, 37, 8.5f));
+}
+
+// A brand as an older instrument left it: "Müller" in Latin-1 (directory
+// muller) with the models "Hit" (hit), "Kräft" in Latin-1 (kraft, 1 W) and
+// a file without a name line (noname, 250 W, its Vmpp stored as "nan").
+inline bool olderInstrumentsBrand(const TestRoot& root)
+{
+    return addModel("x", "muller", "Hit", "hit", sheet(240, 30, 8, 37, 8.5f)) &&
+           root.write("/krm510data/datapanel/muller/iname", "M\xfcller\n") &&
+           root.write("/krm510data/datapanel/muller/kraft", "name = Kr\xe4"
+                                                            "ft\npmax = 1\n") &&
+           root.write("/krm510data/datapanel/muller/noname", "pmax = 250.00\nvmpp = nan\n");
+}
+
 struct BrandList {
     _listBrand* head;
     BrandList() : head(readListBrandPanel(nullptr)) {}

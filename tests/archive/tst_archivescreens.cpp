@@ -9,6 +9,7 @@
 #include "archive/listpanel.h"
 #include "archive/newpanel.h"
 #include "archivefixture.h"
+#include "support/lookcheck.h"
 #include "support/screenshot.h"
 
 #include <QApplication>
@@ -43,6 +44,8 @@ class TestArchiveScreens : public QObject
         QString path = saveScreenshot(d, name);
         QVERIFY(!path.isEmpty());
         QCOMPARE(QImage(path).size(), QSize(1024, 600));
+        const QStringList faults = legibilityFaults(d);
+        QVERIFY2(faults.isEmpty(), qPrintable(QString(name) + ":\n" + faults.join('\n')));
     }
 
 public:
@@ -52,7 +55,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
     void archiveMenu()
     {

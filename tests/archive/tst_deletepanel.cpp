@@ -55,6 +55,51 @@ private slots:
         pressModel(d, "Hit 240");
         QVERIFY(button(d, "Cancella Modello")->isEnabled());
     }
+    // The old screen looked the chosen model up by its name again: of two
+    // models of one name it deleted the first, and a name that is not valid
+    // UTF-8 was never found. The model deleted is the one chosen.
+    void referenceIsTheOneChosen_ofTwoModelsOfOneNameTheChosenOneIsDeleted()
+    {
+        for (int row = 0; row < 2; row++) {
+            TestRoot root(0.001);
+            QVERIFY(twinModels());
+            BrandList brands;
+            DeletePanel d(nullptr, brands.head);
+            QListWidget* list = child<QListWidget>(&d, "models");
+            QCOMPARE(list->count(), 2);
+            QListWidgetItem* item = list->item(row);
+            const QString file = item->data(Qt::UserRole).toString();
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                              list->visualItemRect(item).center());
+            ModalDriver driver;
+            driver.answerBox(QMessageBox::Yes);
+            touch(button(d, "Cancella Modello"));
+            const QString other = file == "twin_a" ? "twin_b" : "twin_a";
+            QCOMPARE(tree(root), QStringList({"solar/", "solar/iname", "solar/" + other}));
+        }
+    }
+    void referenceIsTheOneChosen_latin1NamesAndFilesWithoutANameAreDeleted()
+    {
+        TestRoot root(0.001);
+        QVERIFY(olderInstrumentsBrand(root));
+        BrandList brands;
+        DeletePanel d(nullptr, brands.head);
+        QCOMPARE(child<QComboBox>(&d, "brand")->currentText(), QString::fromUtf8("Müller"));
+        pressModel(d, QString::fromUtf8("Kräft"));
+        ModalDriver driver;
+        driver.answerBox(QMessageBox::Yes);
+        touch(button(d, "Cancella Modello"));
+        QCOMPARE(tree(root),
+                 QStringList({"muller/", "muller/hit", "muller/iname", "muller/noname"}));
+        QListWidget* list = child<QListWidget>(&d, "models");
+        QList<QListWidgetItem*> unnamed = list->findItems(QString(), Qt::MatchExactly);
+        QCOMPARE(unnamed.size(), 1);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          list->visualItemRect(unnamed[0]).center());
+        driver.answerBox(QMessageBox::Yes);
+        touch(button(d, "Cancella Modello"));
+        QCOMPARE(tree(root), QStringList({"muller/", "muller/hit", "muller/iname"}));
+    }
     void answeringNoKeepsTheModel()
     {
         TestRoot root(0.001);

@@ -58,8 +58,8 @@ private slots:
         touch(save(d));
         QCOMPARE(driver.boxes.value(0).title, QString("Modifica Marca"));
         QCOMPARE(driver.boxes.value(0).text, QString("Inserita nuova marca"));
-        QCOMPARE(tree(root), QStringList({"solar/", "solar/iname", "solar_power/",
-                                          "solar_power/iname"}));
+        QCOMPARE(tree(root),
+                 QStringList({"solar/", "solar/iname", "solar_power/", "solar_power/iname"}));
         QCOMPARE(root.read("/krm510data/datapanel/solar_power/iname"),
                  QByteArray("Solar Power Italia\n"));
         // the list was read again and the form emptied
@@ -91,24 +91,62 @@ private slots:
         QCOMPARE(root.read("/krm510data/datapanel/solar/iname"), QByteArray("Solar Energy\n"));
         QCOMPARE(rows(d), QStringList({"<Nuova Marca>", "Solar Energy"}));
     }
-    void saveIsEnabledOnlyForANameOtherThanTheSelectedOne()
+    // The old screen kept one directory per name: of two brands of one name
+    // it renamed the same one whichever was chosen. The brand renamed is
+    // the one chosen.
+    void referenceIsTheOneChosen_ofTwoBrandsOfOneNameTheChosenOneIsRenamed()
+    {
+        for (int row = 1; row <= 2; row++) {
+            TestRoot root(0.001);
+            QVERIFY(addBrand("Solar", "solar"));
+            QVERIFY(addBrand("Solar", "solar_2"));
+            BrandList brands;
+            EditBrand d(nullptr, brands.head);
+            ModalDriver driver;
+            QListWidget* list = child<QListWidget>(&d, "brands");
+            QCOMPARE(rows(d), QStringList({"<Nuova Marca>", "Solar", "Solar"}));
+            QListWidgetItem* item = list->item(row);
+            const QString dir = item->data(Qt::UserRole).toString();
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                              list->visualItemRect(item).center());
+            enter(driver, &d, "name", "Renamed");
+            driver.answerBox();
+            touch(save(d));
+            brands.head = d._brandHead;
+            const QString other = dir == "solar" ? "solar_2" : "solar";
+            QCOMPARE(
+                root.read(("/krm510data/datapanel/" + dir + "/iname").toLocal8Bit().constData()),
+                QByteArray("Renamed\n"));
+            QCOMPARE(
+                root.read(("/krm510data/datapanel/" + other + "/iname").toLocal8Bit().constData()),
+                QByteArray("Solar\n"));
+        }
+    }
+    void saveWaitsForASelectedRowAndAnotherText()
     {
         TestRoot root(0.001);
         QVERIFY(addBrand("Solar", "solar"));
         BrandList brands;
         EditBrand d(nullptr, brands.head);
         ModalDriver driver;
+        // nothing selected: a name alone is not enough
+        enter(driver, &d, "name", "Solar2");
+        QVERIFY(!save(d)->isEnabled());
         pick(d, "Solar");
-        QVERIFY(save(d)->isEnabled()); // a selection enables it
+        QVERIFY(!save(d)->isEnabled()); // the row's own text: nothing to save
         enter(driver, &d, "name", "Solar");
         QVERIFY(!save(d)->isEnabled());
         enter(driver, &d, "name", "Solar2");
         QVERIFY(save(d)->isEnabled());
         pick(d, "<Nuova Marca>");
+        QVERIFY(!save(d)->isEnabled());
         // the new brand row opens the keyboard empty
         enter(driver, &d, "name", "Nuova");
-        QCOMPARE(driver.keyboardInitial, QStringList({"Solar", "Solar", ""}));
+        QCOMPARE(driver.keyboardInitial, QStringList({"", "Solar", "Solar", ""}));
         QVERIFY(save(d)->isEnabled());
+        // a selection given up takes Salva with it
+        child<QListWidget>(&d, "brands")->clearSelection();
+        QVERIFY(!save(d)->isEnabled());
     }
     void emptyOrTooLongNamesAreRefused()
     {
@@ -137,9 +175,9 @@ private slots:
         ModalDriver driver;
         pick(d, "<Nuova Marca>");
         QCOMPARE(child<QLineEdit>(&d, "name")->text(), QString("<Nuova Marca>"));
-        driver.answerBox();
+        QVERIFY(!save(d)->isEnabled());
         touch(save(d));
-        QCOMPARE(driver.boxes.value(0).title, QString("Marca Modulo"));
+        QVERIFY(driver.boxes.isEmpty());
         QVERIFY(tree(root).isEmpty());
     }
     void returnOnTheListPicksAndOnSaveSaves()

@@ -111,6 +111,61 @@ private slots:
                             "kisc = 0.0500\nkvoc = -0.3000\nkpmax = -0.4500\ntollp = 3.00\n"
                             "tollm = -3.00\n"));
     }
+    // The old screen looked the chosen model up by its name again: of two
+    // models of one name it showed and wrote the first. The model edited is
+    // the one chosen.
+    void referenceIsTheOneChosen_ofTwoModelsOfOneNameTheChosenOneIsEdited()
+    {
+        for (int row = 0; row < 2; row++) {
+            TestRoot root(0.001);
+            QVERIFY(twinModels());
+            BrandList brands;
+            EditPanel d(nullptr, brands.head);
+            QComboBox* model = child<QComboBox>(&d, "model");
+            QCOMPARE(model->count(), 2);
+            model->setCurrentIndex(row);
+            const QByteArray file = model->itemData(row).toByteArray();
+            QCOMPARE(edit(&d, "pmax")->text(), QString(file == "twin_a" ? "200.0" : "300.0"));
+            ModalDriver driver;
+            enter(driver, &d, "pmax", "245");
+            driver.answerBox();
+            touch(child<QPushButton>(&d, "Salva"));
+            const QByteArray other = file == "twin_a" ? "twin_b" : "twin_a";
+            QVERIFY(modelFile(root, "solar", file).contains("pmax = 245.00\n"));
+            QVERIFY(!modelFile(root, "solar", other).contains("pmax = 245.00\n"));
+        }
+    }
+    void referenceIsTheOneChosen_latin1NamesAndFilesWithoutANameCanBeEdited()
+    {
+        TestRoot root(0.001);
+        QVERIFY(olderInstrumentsBrand(root));
+        BrandList brands;
+        EditPanel d(nullptr, brands.head);
+        QCOMPARE(child<QComboBox>(&d, "brand")->currentText(), QString::fromUtf8("Müller"));
+        QComboBox* model = child<QComboBox>(&d, "model");
+        // sorted: the file without a name (an empty name), "Hit", "Kräft"
+        QCOMPARE(model->itemText(0), QString());
+        QCOMPARE(model->itemText(2), QString::fromUtf8("Kräft"));
+        model->setCurrentIndex(2);
+        QCOMPARE(edit(&d, "pmax")->text(), QString("1.0"));
+        model->setCurrentIndex(0);
+        QCOMPARE(edit(&d, "pmax")->text(), QString("250.0"));
+        // a stored "nan" shows as no value
+        QCOMPARE(edit(&d, "vmpp")->text(), QString("----"));
+        QVERIFY(child<QPushButton>(&d, "Salva")->isEnabled());
+    }
+    void numberIsANumber_moduleFormsRefuseNanAndInf()
+    {
+        TestRoot root(0.001);
+        twoBrands();
+        BrandList brands;
+        EditPanel d(nullptr, brands.head);
+        ModalDriver driver;
+        for (const char* t : {"nan", "-INF", "infinity", "1e39"})
+            enterRefused(driver, &d, "pmax", t);
+        QCOMPARE(driver.boxes.size(), 4);
+        QCOMPARE(edit(&d, "pmax")->text(), QString("300.0"));
+    }
     void saveFailureIsNotToldOnThisScreen()
     {
         TestRoot root(0.001);

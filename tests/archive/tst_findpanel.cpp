@@ -2,6 +2,7 @@
 #include "archive/findpanel.h"
 #include "archivefixture.h"
 #include "shell/language.h"
+#include "toolkit/tabcolumns.h"
 
 #include <QLabel>
 #include <QListWidget>
@@ -165,7 +166,8 @@ private slots:
         QCOMPARE(list->item(1)->text(),
                  QString("Solar Po\tMonocrysta\t250.00\t30.50\t8.20\t37.50\t8.75"));
         QVERIFY(modelFile(root, "solar", "mono").contains("name = Monocrystal 250\n"));
-        QCOMPARE(root.read("/krm510data/datapanel/solar/iname"), QByteArray("Solar Power Italia\n"));
+        QCOMPARE(root.read("/krm510data/datapanel/solar/iname"),
+                 QByteArray("Solar Power Italia\n"));
     }
     void cancellingTheProgressKeepsTheRowsFoundSoFar()
     {
@@ -248,21 +250,33 @@ private slots:
         QTest::addColumn<QString>("field");
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("message");
-        QTest::newRow("pmax") << "pmax" << "Pmax" << "Pmax non può essere negativa : -1";
-        QTest::newRow("pmaxMin") << "pmaxMin" << "Pmax Minima"
+        QTest::newRow("pmax") << "pmax"
+                              << "Pmax"
+                              << "Pmax non può essere negativa : -1";
+        QTest::newRow("pmaxMin") << "pmaxMin"
+                                 << "Pmax Minima"
                                  << "Pmax Minima non può essere negativa : -1";
-        QTest::newRow("pmaxMax") << "pmaxMax" << "Pmax Massima"
+        QTest::newRow("pmaxMax") << "pmaxMax"
+                                 << "Pmax Massima"
                                  << "Pmax Massima non può essere negativa : -1";
-        QTest::newRow("vmpp") << "vmpp" << "Vmpp" << "Vmpp non può essere negativa : -1";
-        QTest::newRow("vmppMin") << "vmppMin" << "Vmpp Minima"
+        QTest::newRow("vmpp") << "vmpp"
+                              << "Vmpp"
+                              << "Vmpp non può essere negativa : -1";
+        QTest::newRow("vmppMin") << "vmppMin"
+                                 << "Vmpp Minima"
                                  << "Vmpp Minima non può essere negativa : -1";
-        QTest::newRow("vmppMax") << "vmppMax" << "Vmpp Massima"
+        QTest::newRow("vmppMax") << "vmppMax"
+                                 << "Vmpp Massima"
                                  << "Vmpp Massima non può essere negativa : -1";
-        QTest::newRow("impp") << "impp" << "Impp" << "Impp non può essere negativa : -1";
+        QTest::newRow("impp") << "impp"
+                              << "Impp"
+                              << "Impp non può essere negativa : -1";
         // this title stands in English
-        QTest::newRow("imppMin") << "imppMin" << "Minimum Impp"
+        QTest::newRow("imppMin") << "imppMin"
+                                 << "Minimum Impp"
                                  << "Impp Minima non può essere negativa : -1";
-        QTest::newRow("imppMax") << "imppMax" << "Impp Massima"
+        QTest::newRow("imppMax") << "imppMax"
+                                 << "Impp Massima"
                                  << "Impp Massima non può essere negativa : -1";
     }
     void negativeValuesAreRefusedWithTheFieldsMessage()
@@ -291,6 +305,36 @@ private slots:
         QCOMPARE(driver.boxes.value(0).title, QString("Vmpp Minima"));
         QCOMPARE(driver.boxes.value(0).informative, QString("Vmpp : 1X"));
         QCOMPARE(child<QLineEdit>(&d, "vmppMin")->text(), QString());
+    }
+    void numberIsANumber_nanInfAndNumbersBeyondAFloatAreRefused()
+    {
+        TestRoot root(0.001);
+        FindPanel d(nullptr, nullptr);
+        ModalDriver driver;
+        const QStringList texts{"nan", "-NaN", "inf", "+Infinity", "1e39"};
+        for (const QString& t : texts)
+            enterRefused(driver, &d, "pmaxMin", t);
+        QCOMPARE(driver.boxes.size(), texts.size());
+        QCOMPARE(driver.boxes.value(0).informative, QString("Pmax : nan"));
+        QCOMPARE(child<QLineEdit>(&d, "pmaxMin")->text(), QString());
+        QVERIFY(!child<QPushButton>(&d, "Cerca")->isEnabled());
+    }
+    void numberIsANumber_aStoredNanOrInfShowsDashesInTheResults()
+    {
+        TestRoot root(0.001);
+        QVERIFY(addModel("Solar", "solar", "S100", "s100", sheet(100, 20, 5, 25, 5.5f)));
+        QByteArray file = root.read("/krm510data/datapanel/solar/s100");
+        file.replace("\nvoc = 25.00\n", "\nvoc = nan\n");
+        file.replace("\nisc = 5.50\n", "\nisc = inf\n");
+        QVERIFY(root.write("/krm510data/datapanel/solar/s100", file));
+        BrandList brands;
+        FindPanel d(nullptr, brands.head);
+        ModalDriver driver;
+        enter(driver, &d, "pmaxMin", "50");
+        search(d);
+        QListWidget* list = child<QListWidget>(&d, "result");
+        QCOMPARE(list->count(), 2);
+        QCOMPARE(list->item(1)->text().split('\t').mid(5), QStringList({"----", "----"}));
     }
     void aMinimumAboveTheMaximumIsRefused()
     {
@@ -330,6 +374,53 @@ private slots:
         QCOMPARE(driver.boxes[2].informative, QString("Impp Massima è minore di Impp Minima."));
         QCOMPARE(child<QLineEdit>(&d, "pmaxMax")->text(), QString());
     }
+    void findResultsStandInColumnsUnderTheirHeaderInEveryLanguage()
+    {
+        TestRoot root(0.001);
+        QVERIFY(root.installCatalogues());
+        fiveModels();
+        QVERIFY(addModel("Solar Power Italia", "spi", "Monocrystal 250", "mono",
+                         sheet(250, 30.5f, 8.2f, 37.5f, 8.75f)));
+        for (_language lang : {LANG_IT, LANG_EN, LANG_FR, LANG_DE, LANG_ES}) {
+            QTranslator translator;
+            QVERIFY(loadTranslator(&translator, lang));
+            QCoreApplication::installTranslator(&translator);
+            BrandList brands;
+            FindPanel d(nullptr, brands.head);
+            ModalDriver driver;
+            enter(driver, &d, "pmaxMin", "1");
+            search(d);
+            QListWidget* list = child<QListWidget>(&d, "result");
+            QCOMPARE(list->count(), 7);
+            // the texts are built as ever: tab-separated, the header with its blanks
+            QCOMPARE(list->item(0)->text(),
+                     QCoreApplication::translate("FindPanel", "Marca") + "\t " +
+                         QCoreApplication::translate("FindPanel", "Modello") +
+                         "\t Pmax(V)\t Vmpp(V)\t Impp(A)\t Voc(V)\t Isc(A)");
+            QVERIFY(list->item(0)->text().contains("\t "));
+            TabColumns* columns = dynamic_cast<TabColumns*>(list->itemDelegate());
+            QVERIFY(columns != nullptr);
+            QFontMetrics metrics(list->font());
+            QList<QRect> header = columns->cellRects(list->model()->index(0, 0),
+                                                     list->visualRect(list->model()->index(0, 0)));
+            QCOMPARE(header.size(), 7);
+            for (int row = 0; row < list->count(); row++) {
+                QModelIndex index = list->model()->index(row, 0);
+                QList<QRect> cells = columns->cellRects(index, list->visualRect(index));
+                QStringList texts = list->item(row)->text().split('\t');
+                QCOMPARE(cells.size(), 7);
+                for (int i = 0; i < 7; i++) {
+                    // every cell under its header cell, fitting its column
+                    QCOMPARE(cells[i].left(), header[i].left());
+                    QVERIFY2(metrics.horizontalAdvance(texts[i].trimmed()) < cells[i].width(),
+                             qPrintable(texts[i]));
+                    if (i > 0)
+                        QCOMPARE(cells[i].left(), cells[i - 1].right() + 1);
+                }
+            }
+            QCoreApplication::removeTranslator(&translator);
+        }
+    }
     void theItalianCatalogueKeepsItsSlipInTheMaximumMessage()
     {
         TestRoot root(0.001);
@@ -341,7 +432,8 @@ private slots:
         ModalDriver driver;
         enter(driver, &d, "pmaxMin", "200");
         enterRefused(driver, &d, "pmaxMax", "100");
-        QCOMPARE(driver.boxes.value(0).informative, QString("Pmax Massima è minome di Pmax Minima."));
+        QCOMPARE(driver.boxes.value(0).informative,
+                 QString("Pmax Massima è minome di Pmax Minima."));
         QCoreApplication::removeTranslator(&translator);
     }
     void findPanelHasItsNameAndTitle()

@@ -57,6 +57,20 @@ private slots:
             QVERIFY(!(table->item(0, c)->flags() & Qt::ItemIsEditable));
         QCOMPARE(d.findChild<InfoBar*>()->title(), QString("Lista Moduli"));
     }
+    void numberIsANumber_aStoredNanOrInfShowsDashes()
+    {
+        TestRoot root(0.001);
+        QVERIFY(addModel("Solar", "solar", "Hit 240", "hit_240", sheet(240, 30, 8, 37, 8.5f)));
+        QByteArray file = root.read("/krm510data/datapanel/solar/hit_240");
+        file.replace("\nvmpp = 30.00\n", "\nvmpp = nan\n");
+        file.replace("\nisc = 8.50\n", "\nisc = -inf\n");
+        QVERIFY(root.write("/krm510data/datapanel/solar/hit_240", file));
+        BrandList brands;
+        ListPanel d(nullptr, brands.head);
+        QTableWidget* table = child<QTableWidget>(&d, "table");
+        QCOMPARE(row(table, 0),
+                 QStringList({"Hit 240", "240.0", "----", "8.00", "37.00", "----", "-0.3500"}));
+    }
     void aBrandWithoutModelsShowsAnEmptyTable()
     {
         TestRoot root(0.001);

@@ -1,7 +1,9 @@
 #include "data/coredata.h"
+#include "support/datafiles.h"
 #include "support/testroot.h"
 
 #include <QtTest>
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
 
@@ -127,25 +129,65 @@ private slots:
     {
         QCOMPARE(split("a = 1\r2\n").value, QByteArray("1"));
     }
-    void lineOf1000CharactersIsReadInPieces()
+    static QList<Split> linesOf(const TestRoot& root, const QByteArray& content)
+    {
+        root.write("/etc/long", content);
+        FILE* f = fopen(root.path("/etc/long").toLocal8Bit().constData(), "r");
+        QList<Split> lines;
+        char line[TAG_LINE_SIZE];
+        while (f != nullptr && readTagLine(f, line))
+            lines.append(split(line));
+        if (f != nullptr)
+            fclose(f);
+        return lines;
+    }
+    // The old reader took a line in pieces of 255 bytes, each read as a line
+    // of its own; stored data is never lost: a line is whole up to the bound.
+    void storedDataNeverLost_lineOf1000CharactersIsReadWhole()
     {
         TestRoot root;
-        QByteArray big = "mcom = " + QByteArray(993, 'x') + "\npmax = 7\n";
-        QVERIFY(root.write("/etc/long", big));
-        FILE* f = fopen(root.path("/etc/long").toLocal8Bit().constData(), "r");
-        QVERIFY(f != nullptr);
+        QList<Split> lines = linesOf(root, "mcom = " + QByteArray(993, 'x') + "\npmax = 7\n");
+        QCOMPARE(lines.size(), 2);
+        QCOMPARE(lines[0].kind, TAG_PAIR);
+        QCOMPARE(lines[0].value, QByteArray(993, 'x'));
+        QCOMPARE(lines[1].value, QByteArray("7"));
+    }
+    void storedDataNeverLost_lineBeyondTheBoundIsSkippedNeverTakenForTheNextLine()
+    {
+        TestRoot root;
+        QList<Split> lines = linesOf(root, "mcom = " + QByteArray(5000, 'x') + "\nmcom = y\n" +
+                                               QByteArray(TAG_LINE_SIZE - 1, 'z') + "\npmax = 7");
+        // 1023 bytes of the first line are kept, the rest of it skipped; a
+        // line of exactly 1023 bytes and a last line without a newline are whole
+        QCOMPARE(lines.size(), 4);
+        QCOMPARE(lines[0].value, QByteArray(TAG_LINE_SIZE - 1 - 7, 'x'));
+        QCOMPARE(lines[1].value, QByteArray("y"));
+        QCOMPARE(lines[2].kind, TAG_NO_EQUALS);
+        QCOMPARE(lines[3].value, QByteArray("7"));
+    }
+    void storedDataNeverLost_lineOfExactlyTheBoundKeepsTheNextLine()
+    {
+        TestRoot root;
+        // 1023 bytes and the newline: the newline is beyond the bound
+        QList<Split> lines =
+            linesOf(root, "a = " + QByteArray(TAG_LINE_SIZE - 1 - 4, 'v') + "\nb = 2\n");
+        QCOMPARE(lines.size(), 2);
+        QCOMPARE(lines[0].value.size(), TAG_LINE_SIZE - 1 - 4);
+        QCOMPARE(lines[1].key, QByteArray("B"));
+    }
+    void storedDataNeverLost_noteBlockWithLongLinesIsSkippedWhole()
+    {
+        TestRoot root;
+        QVERIFY(root.write("/etc/note", "note <\n" + QByteArray(3000, '<') + "x\n" +
+                                            QByteArray(3000, 'n') + "\n<\nb = 2\n"));
+        FILE* f = fopen(root.path("/etc/note").toLocal8Bit().constData(), "r");
         char line[TAG_LINE_SIZE];
-        QList<Split> pieces;
-        while (readTagLine(f, line))
-            pieces.append(split(line));
+        QVERIFY(readTagLine(f, line));
+        QCOMPARE(split(line).kind, TAG_NOTE);
+        skipNote(f); // the long line of "<" closes it
+        QVERIFY(readTagLine(f, line));
+        QCOMPARE(split(line).kind, TAG_NO_EQUALS); // the line of n's
         fclose(f);
-        // 1000 characters and the newline: pieces of 255, 255, 255, 236
-        QCOMPARE(pieces.size(), 5);
-        QCOMPARE(pieces[0].kind, TAG_PAIR);
-        QCOMPARE(pieces[0].value, QByteArray(255 - 7, 'x'));
-        QCOMPARE(pieces[1].kind, TAG_NO_EQUALS); // a piece of x's is a key without "="
-        QCOMPARE(pieces[4].kind, TAG_PAIR);
-        QCOMPARE(pieces[4].value, QByteArray("7"));
     }
     void nulByteEndsTheLineText()
     {
@@ -195,6 +237,39 @@ private slots:
     {
         QCOMPARE(written([](FILE* f) { return fwriteTagFloat(f, "sisc", NAN); }),
                  QByteArray("sisc = nan\n"));
+    }
+    // The old instrument wrote and read the numbers of its files in the
+    // process locale; files speak C whatever the locale.
+    void filesSpeakC_floatIsWrittenWithAPointUnderACommaLocale()
+    {
+        CommaLocale comma;
+        if (!comma.active())
+            QSKIP("no locale with a decimal comma on this machine");
+        char text[16];
+        snprintf(text, sizeof text, "%.2f", 1.5);
+        QCOMPARE(QByteArray(text), QByteArray("1,50")); // the locale is in force
+        QCOMPARE(written([](FILE* f) { return fwriteTagFloatPrecision(f, "v", 1.25f, 2); }),
+                 QByteArray("v = 1.25\n"));
+        QCOMPARE(written([](FILE* f) { return fwriteTagFloat(f, "v", -1.25f); }),
+                 QByteArray("v = -1.250000\n"));
+        QCOMPARE(written([](FILE* f) { return cFprintf(f, "%.4f", 2.5); }), QByteArray("2.5000"));
+        cSnprintf(text, sizeof text, "%.1f", 0.5);
+        QCOMPARE(QByteArray(text), QByteArray("0.5"));
+        // the locale of the process is left as it was
+        snprintf(text, sizeof text, "%.1f", 0.5);
+        QCOMPARE(QByteArray(text), QByteArray("0,5"));
+    }
+    void filesSpeakC_numbersAreReadWithAPointUnderACommaLocale()
+    {
+        CommaLocale comma;
+        if (!comma.active())
+            QSKIP("no locale with a decimal comma on this machine");
+        QCOMPARE(atof("1.25"), 1.0); // what the old reading gave
+        QCOMPARE(cAtof("1.25"), 1.25);
+        QCOMPARE(cAtof("1,25"), 1.0);
+        QCOMPARE(cAtof("-3.5e2"), -350.0);
+        QVERIFY(std::isnan(cAtof("nan")));
+        QCOMPARE(cAtof(nullptr), 0.0);
     }
     void writersReturnTheCharacterCount()
     {

@@ -155,6 +155,25 @@ private slots:
         freeMeasureData(&m);
     }
 
+    // The old instrument wrote and read its numbers in the process locale: a
+    // comma locale gave "1,2500" in the table. Files speak C whatever the locale.
+    void filesSpeakC_measureUnderACommaLocaleMatchesGolden512AndReadsBack()
+    {
+        CommaLocale comma;
+        if (!comma.active())
+            QSKIP("no locale with a decimal comma on this machine");
+        TestRoot root;
+        directories();
+        _measure m = golden512();
+        QVERIFY(saveMeasuresData(&m, MEA_PANEL, 42) > 0);
+        QCOMPARE(root.read(DIR_DATA_MEA_PANEL "/20100615-103000"), golden("measure_512_points"));
+        _measure r;
+        QCOMPARE(readMeasureData("20100615-103000", &r, MEA_PANEL), RAMP_POINTS - 1);
+        compareMeasures(r, m);
+        freeMeasureData(&m);
+        freeMeasureData(&r);
+    }
+
     void golden256IsPaddedWithPoint254()
     {
         TestRoot root;
@@ -453,28 +472,45 @@ private slots:
         freeMeasureData(&r);
     }
 
-    void commentOf300CharactersIsCutAndItsTailCountsAsAPoint()
+    // The old reader took the comment's line in pieces of 255 bytes: a
+    // 300-character comment was cut to 248 and its tail was read as a point
+    // that shifted the whole curve by one. Stored data is never lost.
+    void storedDataNeverLost_commentOf255CharactersReadsBackWholeAndTheCurveStays()
+    {
+        // 255 characters of two bytes each in UTF-8, and 300 plain ones
+        const QByteArray comments[] = {QString(255, QChar(0xE8)).toUtf8(), QByteArray(300, 'c')};
+        for (const QByteArray& comment : comments) {
+            TestRoot root;
+            directories();
+            _measure m = golden512();
+            free(m.mcom);
+            m.mcom = strdup(comment.constData());
+            QVERIFY(saveMeasuresData(&m, MEA_PANEL, 42) > 0);
+            _measure r;
+            QCOMPARE(readMeasureData("20100615-103000", &r, MEA_PANEL), RAMP_POINTS - 1);
+            QCOMPARE(QByteArray(r.mcom), comment);
+            compareMeasures(r, m);
+            freeMeasureData(&m);
+            freeMeasureData(&r);
+        }
+    }
+    void storedDataNeverLost_commentBeyondTheLineBoundIsCutButTheCurveStays()
     {
         TestRoot root;
         directories();
         _measure m = golden512();
         free(m.mcom);
-        m.mcom = strdup(QByteArray(300, 'c').constData());
+        m.mcom = strdup(QByteArray(5000, 'c').constData());
         QVERIFY(saveMeasuresData(&m, MEA_PANEL, 42) > 0);
-        QVERIFY(root.read(DIR_DATA_MEA_PANEL "/20100615-103000").contains(QByteArray(300, 'c')));
         _measure r;
-        // the line is read in pieces of 255: "mcom = " and 248 characters,
-        // then a piece of 52 characters with no "=", which the table takes
-        // for a point of two zeros before the first one
-        QCOMPARE(readMeasureData("20100615-103000", &r, MEA_PANEL), 511);
-        QCOMPARE(text(r.mcom), QString(248, 'c'));
-        QCOMPARE(r.ramp.corrente[0], m.ref.tollm);
-        QCOMPARE(r.ramp.tensione[0], 0.0f);
-        for (int k = 1; k < RAMP_POINTS; k++) {
-            QCOMPARE(r.ramp.corrente[k], m.ramp.corrente[k - 1]);
-            QCOMPARE(r.ramp.tensione[k], m.ramp.tensione[k - 1]);
+        QCOMPARE(readMeasureData("20100615-103000", &r, MEA_PANEL), RAMP_POINTS - 1);
+        // "mcom = " and the rest of the 1023 bytes of the line
+        QCOMPARE(QByteArray(r.mcom), QByteArray(TAG_LINE_SIZE - 1 - 7, 'c'));
+        for (int k = 0; k < RAMP_POINTS; k++) {
+            QCOMPARE(r.ramp.corrente[k], m.ramp.corrente[k]);
+            QCOMPARE(r.ramp.tensione[k], m.ramp.tensione[k]);
         }
-        QCOMPARE(r.mtest, 1); // the header after the comment is whole
+        QCOMPARE(r.mtest, m.mtest); // the header after the comment is whole
         freeMeasureData(&m);
         freeMeasureData(&r);
     }

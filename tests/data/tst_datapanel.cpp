@@ -455,13 +455,21 @@ private slots:
         QCOMPARE(heapText(getBrandName("solaria")), QString("Solaria"));
     }
 
-    void overlongBrandNameIsCutTo255Characters()
+    // The old reader kept 255 bytes of the brand's name, fewer than 255
+    // characters of UTF-8; stored data is never lost.
+    void storedDataNeverLost_brandNameOf255CharactersReadsBackWhole()
     {
         TestRoot root;
         database(root);
-        QVERIFY(root.write(DIR_DATA_PANEL "/solaria/iname", QByteArray(400, 'S') + "\n"));
+        QByteArray name = QString(255, QChar(0xC9)).toUtf8();
+        QVERIFY(root.write(DIR_DATA_PANEL "/solaria/iname", name + "\n"));
         QDir::setCurrent(root.path(DIR_DATA_PANEL));
-        QCOMPARE(heapText(getBrandName("solaria")), QString(255, 'S'));
+        char* back = getBrandName("solaria");
+        QCOMPARE(QByteArray(back), name);
+        free(back);
+        // beyond the line bound the name is cut
+        QVERIFY(root.write(DIR_DATA_PANEL "/solaria/iname", QByteArray(4000, 'S') + "\n"));
+        QCOMPARE(heapText(getBrandName("solaria")), QString(TAG_LINE_SIZE - 1, 'S'));
     }
 
     // ---- Reading module data
@@ -603,14 +611,23 @@ private slots:
         QCOMPARE(heapText(getModelName("m")), QString("HIT 240"));
     }
 
-    void overlongModelNameIsCut()
+    // The old reader took the name's line in pieces of 255 bytes and kept
+    // 248 characters of a 300-character name; stored data is never lost.
+    void storedDataNeverLost_modelNameOf255CharactersReadsBackWhole()
     {
         TestRoot root;
         database(root);
-        model(root, "solaria", "m", "name = " + QByteArray(300, 'M') + "\npmax = 1\n");
+        QByteArray name = QString(255, QChar(0xF6)).toUtf8();
+        model(root, "solaria", "m", "name = " + name + "\npmax = 1\n");
+        model(root, "solaria", "n", "name = " + QByteArray(300, 'M') + "\npmax = 1\n");
         QDir::setCurrent(root.path(DIR_DATA_PANEL "/solaria"));
-        // the line is read in pieces of 255 characters: "name = " and 248 of the name
-        QCOMPARE(heapText(getModelName("m")), QString(248, 'M'));
+        char* back = getModelName("m");
+        QCOMPARE(QByteArray(back), name);
+        free(back);
+        QCOMPARE(heapText(getModelName("n")), QString(300, 'M'));
+        _panelFeature f;
+        QCOMPARE(getPanelFeature("solaria", "n", &f), 0);
+        QCOMPARE(f.pmax, 1.0f);
     }
 
     void getPanelOfMissingBrandFails()

@@ -1,4 +1,5 @@
 #include "data/datasetting.h"
+#include "support/datafiles.h"
 #include "support/testroot.h"
 
 #include <QtTest>
@@ -197,10 +198,18 @@ private slots:
         QByteArray name(59, 'n');
         QCOMPARE(QByteArray(readWith(root, "bluename = " + name + "\n").bluename), name);
     }
-    void bluenameOf60CharactersReadsAsDefault()
+    // The old reader replaced a name of 60 characters, which the settings
+    // screen accepts, by the default; stored data is never lost.
+    void storedDataNeverLost_bluenameOf60CharactersIsKept()
     {
         TestRoot root;
         QByteArray name(60, 'n');
+        QCOMPARE(QByteArray(readWith(root, "bluename = " + name + "\n").bluename), name);
+    }
+    void bluenameOf61CharactersReadsAsDefault()
+    {
+        TestRoot root;
+        QByteArray name(61, 'n');
         QCOMPARE(QByteArray(readWith(root, "bluename = " + name + "\n").bluename),
                  QByteArray("KRM510"));
     }
@@ -315,7 +324,28 @@ private slots:
         QCOMPARE(readConfigFile(&back), 0);
         QCOMPARE(memcmp(&c, &back, sizeof c), 0);
     }
-    void bluenameOf60CharactersIsWrittenAndReadBackAsDefault()
+    // The old instrument read and wrote the settings' numbers in the process
+    // locale; files speak C whatever the locale.
+    void filesSpeakC_settingsUnderACommaLocaleAreWrittenWithAPointAndReadBack()
+    {
+        CommaLocale comma;
+        if (!comma.active())
+            QSKIP("no locale with a decimal comma on this machine");
+        TestRoot root;
+        _configParam c;
+        defaultConfig(&c);
+        c.utemp = 21.75f;
+        c.irrmin = 350.5f;
+        saveConfigFile(c);
+        QByteArray file = root.read("/etc/krm510.conf");
+        QVERIFY(file.contains("\nutemp = 21.750000\n"));
+        QVERIFY(file.contains("\nirrmin = 350.500000\n"));
+        QVERIFY(!file.contains(','));
+        _configParam back;
+        QCOMPARE(readConfigFile(&back), 0);
+        QCOMPARE(memcmp(&c, &back, sizeof c), 0);
+    }
+    void storedDataNeverLost_bluenameOf60CharactersIsWrittenAndReadBack()
     {
         TestRoot root;
         _configParam c;
@@ -326,7 +356,7 @@ private slots:
         QVERIFY(root.read("/etc/krm510.conf").contains("bluename = " + QByteArray(60, 'b') + "\n"));
         _configParam back;
         readConfigFile(&back);
-        QCOMPARE(QByteArray(back.bluename), QByteArray("KRM510"));
+        QCOMPARE(QByteArray(back.bluename), QByteArray(60, 'b'));
     }
     void saveWithEtcNotEnterableGivesMinusThree()
     {

@@ -239,16 +239,69 @@ private slots:
         QCOMPARE(int(ok), 0);
     }
 
-    void referenceCountZeroGivesANonFiniteValueThatStaysOk()
+    // The old instrument stored the non-finite temperature of a reference
+    // count of 0 and, as no comparison holds for it, called it good. It is a
+    // failed reading now: the last value comes back and stays cached.
+    void numberIsANumber_referenceCountZeroIsAFailedReadingThatKeepsTheCache()
     {
         TestRoot root(0.1);
         SimInstrument sim(root);
-        QVERIFY(sim.forceAdc("reference", 0));
-        QVERIFY(sim.forceAdc("pt100", 30000));
+        QVERIFY(sim.forceAdc("reference", 30000));
+        QVERIFY(sim.forceAdc("pt100", 33000));
         char ok = 0;
-        float value = temperatureAcquire(&ok, 1, 0);
-        QVERIFY(std::isinf(value));
+        const float good = temperatureAcquire(&ok, 1, 0);
         QCOMPARE(int(ok), 1);
+        QVERIFY(sim.forceAdc("reference", 0));
+        for (int pt100 : {30000, 0}) { // infinite, then not a number
+            QVERIFY(sim.forceAdc("pt100", pt100));
+            ok = 1;
+            QCOMPARE(temperatureAcquire(&ok, 1, 0), good);
+            QCOMPARE(int(ok), 0);
+        }
+        // the cache still holds the good value
+        QVERIFY(sim.removeNode("/dev/spidev0.0"));
+        QCOMPARE(temperatureAcquire(&ok, 1, 0), good);
+    }
+
+    void numberIsANumber_irradianceOfAZeroScaleIsAFailedReadingThatKeepsTheCache()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        setKforPyrano(2.5f);
+        setGforPyrano(10.0f);
+        QVERIFY(sim.forceAdc("pyrano", 32000));
+        char ok = 0;
+        QCOMPARE(irradiationAcquire(&ok), 20000.0f);
+        QCOMPARE(int(ok), 1);
+        setKforPyrano(0.0f); // counts over a scale of 0: infinite
+        ok = 1;
+        QCOMPARE(irradiationAcquire(&ok), 20000.0f);
+        QCOMPARE(int(ok), 0);
+        setKforPyrano(2.5f);
+        QVERIFY(sim.removeNode("/dev/spidev0.0"));
+        QCOMPARE(irradiationAcquire(&ok), 20000.0f);
+        QCOMPARE(int(ok), 0);
+    }
+
+    // The old instrument polled the converter's RDY for ever. A chip that never
+    // becomes ready now fails the transfer after a fixed number of status
+    // reads, whatever the pace of the clock.
+    void everyWaitEnds_converterNeverReadyIsAFailedTransfer()
+    {
+        TestRoot root(0.0);
+        SimInstrument sim(root);
+        QVERIFY(sim.forceAdc("pt100", 0xBEEF));
+        QVERIFY(sim.command("adc stuck on"));
+        const int before = sim.field("adc registers", "transfers").toInt();
+        QCOMPARE(readOnce(AD_PT100), 0);
+        const int after = sim.field("adc registers", "transfers").toInt();
+        // mode, configuration and 10000 status reads; no data read
+        QCOMPARE(after - before, 2 + 10000);
+        char ok = 1;
+        QCOMPARE(temperatureAcquire(&ok, 1, 0), 0.0f);
+        QCOMPARE(int(ok), 0);
+        QVERIFY(sim.command("adc stuck off"));
+        QCOMPARE(readOnce(AD_PT100), 0xBEEF);
     }
 
     void missingSpiNodeGivesTheCachedValues()

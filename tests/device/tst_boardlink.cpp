@@ -151,6 +151,67 @@ private slots:
         QVERIFY(qAbs(t - 47.5f) < 0.2f);
     }
 
+    // The old instrument read its replies as C text: a NUL byte behind the echo
+    // ended the text, its status line was never found and the reply read as
+    // none. A reply with a NUL in its data is no reply, never "OK" with a tail
+    // of zero points, though the line goes on to "ERROR 0".
+    void numberIsANumber_nulInsideTheDataIsNoReply()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        QVERIFY(sim.setIrradiance(900));
+        QVERIFY(sim.setBoardFault("nul"));
+        PowerDevice device;
+        _raw_ramp_iv ramp;
+        std::memset(&ramp, 1, sizeof ramp);
+        QCOMPARE(device.acquireBrask(&ramp, nullptr), PD_NO_REPLY);
+        QVERIFY(rampIsZero(ramp));
+        std::memset(&ramp, 1, sizeof ramp);
+        QCOMPARE(device.acquirePanel(_ramp_param{512, 0, 50, 0, 4095}, &ramp, nullptr),
+                 PD_NO_REPLY);
+        QVERIFY(rampIsZero(ramp));
+        float t = 0;
+        QCOMPARE(device.acquireTempHSink(&t), PD_NO_REPLY);
+        // the same replies without the NUL are good
+        QVERIFY(sim.setBoardFault("none"));
+        QCOMPARE(device.acquireBrask(&ramp, nullptr), PD_OK);
+        QCOMPARE(device.acquireTempHSink(&t), PD_OK);
+    }
+
+    void numberIsANumber_nulsBeforeTheEchoAreDropped()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        QVERIFY(sim.command("board hsink 47.5"));
+        static const char reply[] = "\0\0x\0temp_hsink\r47.5\rERROR 0\r";
+        QVERIFY(sim.forceBoardReply(QByteArray(reply, sizeof reply - 1)));
+        PowerDevice device;
+        float t = 0;
+        QCOMPARE(device.acquireTempHSink(&t), PD_OK);
+        QCOMPARE(t, 47.5f);
+    }
+
+    // The old reply buffer of 2650 bytes was overrun by a legal ramp of 512
+    // points: the whole ramp now reaches its record.
+    void storedDataNeverLost_rampOf512PointsArrivesWhole()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        QVERIFY(sim.setIrradiance(1000));
+        PowerDevice device;
+        _raw_ramp_iv panel, string;
+        QCOMPARE(device.acquirePanel(_ramp_param{512, 0, 50, 0, 4095}, &panel, nullptr), PD_OK);
+        QCOMPARE(device.acquireString(_string_param{512, 0}, &string, nullptr), PD_OK);
+        for (const _raw_ramp_iv* ramp : {&panel, &string}) {
+            // the sweep runs from open circuit (no current) to short circuit (no voltage)
+            QCOMPARE(ramp->tensione[511], 0);
+            QVERIFY(ramp->corrente[511] > 0);
+            QVERIFY(ramp->tensione[0] > 0);
+            for (int k = 1; k < 511; k++)
+                QVERIFY2(ramp->tensione[k] > 0, qPrintable(QString::number(k)));
+        }
+    }
+
     void garbledLinesTakeTheirSlots()
     {
         TestRoot root(0.1);

@@ -5,10 +5,13 @@
 #include "support/siminstrument.h"
 #include "support/testroot.h"
 
+#include <QDialog>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QtTest>
 
-namespace {
+namespace
+{
 
 // A widget that notes every key press and takes it or lets it climb on.
 class KeyRecorder : public QWidget
@@ -128,8 +131,8 @@ private slots:
         QVERIFY(sim.pressKey("return"));
         QTRY_VERIFY(dialog.keys.size() >= 4);
         QVERIFY(sim.releaseKey("return"));
-        QCOMPARE(dialog.keys.mid(0, 4), (QList<int>{Qt::Key_Return, Qt::Key_Space,
-                                                   Qt::Key_Return, Qt::Key_Space}));
+        QCOMPARE(dialog.keys.mid(0, 4),
+                 (QList<int>{Qt::Key_Return, Qt::Key_Space, Qt::Key_Return, Qt::Key_Space}));
     }
 
     void unopenableKeyLineCountsAsAtRest()
@@ -162,6 +165,35 @@ private slots:
         QTRY_VERIFY(!first.keys.isEmpty() && !second.keys.isEmpty());
         QCOMPARE(first.keys.first(), int(Qt::Key_Up));
         QCOMPARE(second.keys.first(), int(Qt::Key_Up));
+    }
+    void keysReachOnlyTheWindowInFront_aPollerBehindAModalDialogStaysQuiet()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        KeyRecorder screen(true);
+        GpioKeyboard keyboard(&screen);
+        screen.show();
+        // a dialog with no poller of its own gets one when it is shown
+        QDialog dialog(&screen);
+        QPushButton* first = new QPushButton("Uno", &dialog);
+        first->setObjectName("Uno");
+        QPushButton* second = new QPushButton("Due", &dialog);
+        second->setObjectName("Due");
+        second->move(0, 40);
+        dialog.setModal(true);
+        dialog.show();
+        QVERIFY(dialog.findChild<GpioKeyboard*>() != nullptr);
+        first->setFocus();
+        QVERIFY(sim.tapKey("down")); // Down walks the dialog's buttons
+        QCOMPARE(dialog.focusWidget(), second);
+        QVERIFY(sim.tapKey("up"));
+        QCOMPARE(dialog.focusWidget(), first);
+        QVERIFY(sim.tapKey("escape")); // Escape rejects the dialog
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+        QVERIFY(screen.keys.isEmpty()); // none of them reached the screen behind
+        QVERIFY(sim.tapKey("escape"));
+        QCOMPARE(screen.keys, QList<int>({Qt::Key_Escape}));
     }
 };
 

@@ -341,6 +341,20 @@ private slots:
         QCOMPARE(proto, 1);
     }
 
+    void numberIsANumber_nulBehindTheEchoIsFoundAndNulsBeforeItAreNot()
+    {
+        static const char behind[] = "ver\rKRM\0"
+                                     "510\r";
+        QVERIFY(nulBehindEcho(behind, sizeof behind - 1, "ver\r"));
+        static const char before[] = "\0x\0ver\rKRM510\r";
+        QVERIFY(!nulBehindEcho(before, sizeof before - 1, "ver\r"));
+        // no echo: nothing to look behind
+        QVERIFY(!nulBehindEcho(behind, sizeof behind - 1, "temp_hsink\r"));
+        // the NUL that closes the buffer lies beyond the count
+        QVERIFY(!nulBehindEcho("ver\rKRM510\r", 11, "ver\r"));
+        QVERIFY(!nulBehindEcho("ver\r", 4, "ver\r"));
+    }
+
     void binaryNoiseGivesNoReplyAndNoData()
     {
         QByteArray noise;

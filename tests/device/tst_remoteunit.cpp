@@ -369,7 +369,9 @@ private slots:
         QCOMPARE(ok, char(0));
     }
 
-    void versionOneDeadLineReportsTemperatureOkWithAMeaninglessValue()
+    // The old instrument reported the 0 / 0 of a dead first-generation unit
+    // as a good temperature. It is a failed reading: 0 and not ok.
+    void numberIsANumber_versionOneDeadLineIsAFailedTemperature()
     {
         TestRoot root(0.1);
         SimInstrument sim(root);
@@ -381,15 +383,50 @@ private slots:
         char ok = 1;
         QCOMPARE(unit.getPirano(&ok), 0.0f);
         QCOMPARE(ok, char(0));
-        // Both counts read 0: 0 / 0, and the probe count is not 65535.
-        ok = 0;
-        QVERIFY(std::isnan(unit.getTempModulo(&ok)));
-        QCOMPARE(ok, char(1));
-        ok = 0;
-        QVERIFY(std::isnan(unit.getTempAmbiente(&ok)));
-        QCOMPARE(ok, char(1));
+        // Both counts read 0: 0 / 0
+        ok = 1;
+        QCOMPARE(unit.getTempModulo(&ok), 0.0f);
+        QCOMPARE(ok, char(0));
+        ok = 1;
+        QCOMPARE(unit.getTempAmbiente(&ok), 0.0f);
+        QCOMPARE(ok, char(0));
         // The descriptor stays until disconnect.
         QCOMPARE(unit.isConnect(), 1);
+    }
+
+    void numberIsANumber_versionOneReferenceZeroIsAFailedTemperature()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        QVERIFY(sim.command("remote gen 1"));
+        RemoteUnit unit(LINK_USB, 10.54f);
+        QCOMPARE(unit.connect(), 1);
+        // the probe reads 30000 over a reference of 0: infinite
+        QVERIFY(sim.command("remote reply 30000\\r\\n"));
+        QVERIFY(sim.command("remote reply 0\\r\\n"));
+        char ok = 1;
+        QCOMPARE(unit.getTempModulo(&ok), 0.0f);
+        QCOMPARE(ok, char(0));
+    }
+
+    void numberIsANumber_versionTwoNanOrInfIsAFailedReading()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        RemoteUnit unit(LINK_USB, 10.54f);
+        QCOMPARE(unit.connect(), 1);
+        QVERIFY(sim.command("remote reply IRR = nan W/m2\\r\\n"));
+        char ok = 1;
+        QCOMPARE(unit.getPirano(&ok), 0.0f);
+        QCOMPARE(ok, char(0));
+        QVERIFY(sim.command("remote reply TEMP CELL = inf C\\r\\n"));
+        ok = 1;
+        QCOMPARE(unit.getTempModulo(&ok), 0.0f);
+        QCOMPARE(ok, char(0));
+        QVERIFY(sim.command("remote reply TEMP ENV = -INFINITY C\\r\\n"));
+        ok = 1;
+        QCOMPARE(unit.getTempAmbiente(&ok), 0.0f);
+        QCOMPARE(ok, char(0));
     }
 
     void readingOnAClosedLineIsNotOk()
@@ -477,6 +514,35 @@ private slots:
         }
         // The destructor disconnects again: the stop script runs a second time.
         QCOMPARE(countOf(root.read("/var/lib/krm510-sim/commands.log"), "krmhci.sh stop"), 2);
+    }
+
+    // The settings take any 17 characters as the unit's address. The old
+    // instrument put them into the link script's command line as they were,
+    // so a semicolon there ran a command of its own.
+    void onlyWhatIsMeantRuns_macReachesTheLinkScriptAsOneArgument()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        QVERIFY(sim.command("remote link rfcomm"));
+        const QByteArray mac = "1;reboot #3:44:55";
+        QCOMPARE(mac.size(), 17);
+        QVERIFY(writeConfig(10.54f, mac.constData()));
+        // a harmless "reboot" first on the path, to tell if it ran
+        const QByteArray marker = root.path("/rebooted").toLocal8Bit();
+        QVERIFY(root.write("/fakebin/reboot", "#!/bin/sh\ntouch '" + marker + "'\n"));
+        QVERIFY(QFile::setPermissions(root.path("/fakebin/reboot"),
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        const QByteArray path = qgetenv("PATH");
+        qputenv("PATH", root.path("/fakebin").toLocal8Bit() + ":" + path);
+        RemoteUnit unit(LINK_BLUETOOTH, 10.54f);
+        const int connected = unit.connect();
+        qputenv("PATH", path);
+        QCOMPARE(connected, 1);
+        QVERIFY(!root.exists("/rebooted"));
+        // the script's second argument is the whole address
+        QCOMPARE(root.read("/var/lib/krm510-sim/bt.mac"), mac + "\n");
+        QVERIFY(root.read("/var/lib/krm510-sim/commands.log")
+                    .contains("krmhci.sh start " + mac + "\n"));
     }
 
     void bluetoothWithoutNodeTriesFourTimes()

@@ -130,7 +130,9 @@ private slots:
         UlCloseSerialPort(fd, &saved);
     }
 
-    void silenceEndsAfterMoreThanTwoThousandTimeouts()
+    // The old instrument gave a read of the loader 2000 time-outs of a
+    // second; a read now ends after 10 s of silence.
+    void everyWaitEnds_silenceEndsAfterTenTimeouts()
     {
         TestRoot root(0.0);
         PtyBoard board(root);
@@ -139,7 +141,7 @@ private slots:
         UlSettingSerialPort(fd, &saved, &working);
         char buffer[2];
         QCOMPARE(UlReadSerialData(fd, buffer, 2), 0);
-        QVERIFY(Clock::waits() == std::vector<Clock::Wait>({{Clock::Select, 1000000, 2001}}));
+        QVERIFY(Clock::waits() == std::vector<Clock::Wait>({{Clock::Select, 1000000, 10}}));
         UlCloseSerialPort(fd, &saved);
     }
 
@@ -159,7 +161,7 @@ private slots:
         QCOMPARE(QByteArray(buffer, 2), QByteArray("\x02\x00", 2)); // no byte past the buffer
         std::vector<Clock::Wait> waits = Clock::waits();
         QCOMPARE(waits.size(), size_t(1));
-        QCOMPARE(waits[0].count, 2002); // the read, then the time-outs
+        QCOMPARE(waits[0].count, 11); // the read, then the ten time-outs
         UlCloseSerialPort(fd, &saved);
     }
 

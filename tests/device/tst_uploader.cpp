@@ -371,7 +371,10 @@ private slots:
         QCOMPARE(sim.field("board state", "mode"), QByteArray("loader"));
     }
 
-    void silentLoaderWaitsFourMillionTimeouts()
+    // The old instrument read the greeting 2000 times, each read given up
+    // after 2001 waits of a second: over 46 days for a board that never
+    // answers. The greeting is now one read of at most 10 s.
+    void everyWaitEnds_silentLoaderEndsTheJobAfterTenSeconds()
     {
         TestRoot root(0.0); // silence needs no pacing
         SimInstrument sim(root);
@@ -382,12 +385,116 @@ private slots:
             UpLoader up(QString(hexPath), nullptr);
             QCOMPARE(up.bootUp, 0);
             QCOMPARE(up.done, 0);
-            // 2000 reads of the greeting, each given up after 2001 waits.
+            QCOMPARE(up.reason(), UL_NO_GREETING);
             std::vector<Clock::Wait> expected = {{Clock::Sleep, 1000000, 1},
-                                                 {Clock::Select, 1000000, 2000 * 2001}};
+                                                 {Clock::Select, 1000000, 10}};
             QVERIFY(Clock::waits() == expected);
         }
         QVERIFY(Clock::waits().back() == (Clock::Wait{Clock::Sleep, 2000000, 1}));
+    }
+
+    void everyWaitEnds_loaderWithoutGreetingEndsTheJobAndTheBoardRestarts()
+    {
+        TestRoot root(0.0);
+        SimInstrument sim(root);
+        QVERIFY(sim.command("loader greeting"));
+        QVERIFY(writeHex(root, record(0, 0x0810, bytes({1, 2, 3, 0}))));
+        {
+            UpLoader up(QString(hexPath), nullptr);
+            QCOMPARE(up.done, 0);
+            QCOMPARE(up.reason(), UL_NO_GREETING);
+        }
+        // the destructor still cycles the board's supply
+        QCOMPARE(sim.field("power", "writes"), QByteArray("4"));
+        QCOMPARE(sim.powerLineLevel(), 0);
+        QVERIFY(sim.flashRows().isEmpty());
+    }
+
+    void everyWaitEnds_loaderSilentToAQuestionEndsTheJob_data()
+    {
+        QTest::addColumn<QByteArray>("command");
+        QTest::addColumn<int>("reason");
+        QTest::newRow("version") << QByteArray("0x11") << int(UL_NO_VERSION);
+        QTest::newRow("chip") << QByteArray("0x09") << int(UL_NO_ID);
+        QTest::newRow("row 0") << QByteArray("0x02") << int(UL_NO_ROW0);
+        QTest::newRow("row answer") << QByteArray("0x03") << int(UL_ROW_UNANSWERED);
+    }
+    void everyWaitEnds_loaderSilentToAQuestionEndsTheJob()
+    {
+        QFETCH(QByteArray, command);
+        QFETCH(int, reason);
+        TestRoot root(0.1); // the loader answers the other questions: paced
+        SimInstrument sim(root);
+        QVERIFY(sim.command("loader silent " + command));
+        QVERIFY(writeHex(root, record(0, 0x0810, bytes({1, 2, 3, 0}))));
+        {
+            UpLoader up(QString(hexPath), nullptr);
+            QCOMPARE(up.bootUp, 1);
+            QCOMPARE(up.done, 0);
+            QCOMPARE(int(up.reason()), reason);
+            // the silent read gave up after ten waits of a second
+            bool tenWaits = false;
+            for (const Clock::Wait& w : Clock::waits())
+                tenWaits =
+                    tenWaits || (w.kind == Clock::Select && w.micros == 1000000 && w.count >= 10);
+            QVERIFY(tenWaits);
+        }
+        QCOMPARE(sim.field("power", "writes"), QByteArray("4"));
+        QCOMPARE(sim.powerLineLevel(), 0);
+    }
+
+    // The choice stays that no row is sent when row 0 cannot be read back:
+    // its first two instructions are the chip's jump to its boot loader. The
+    // old instrument then called the job done; it has failed.
+    void everyWaitEnds_noRowIsSentWithoutRowZeroAndTheJobFails()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        QVERIFY(sim.command("loader silent 0x02"));
+        QVERIFY(writeHex(root, record(0, 0, QByteArray(16, '\x5A')) +
+                                   record(0, 0x0810, bytes({1, 2, 3, 0}))));
+        {
+            UpLoader up(QString(hexPath), nullptr);
+            QCOMPARE(up.done, 0);
+            QCOMPARE(up.reason(), UL_NO_ROW0);
+        }
+        QVERIFY(sim.flashRows().isEmpty());
+        // the chip keeps its first instructions: the jump to its loader
+        QCOMPARE(flash(sim, 0, 2), QList<QByteArray>({"040c00", "000000"}));
+    }
+
+    // The old instrument sent a refused row again for ever.
+    void everyWaitEnds_rowIsSentAtMostTenTimes()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        QVERIFY(writeHex(root, record(0, 0x0810, bytes({1, 2, 3, 0}))));
+        // nine refusals: the tenth send goes through
+        QVERIFY(sim.command("loader nak 9"));
+        {
+            UpLoader up(QString(hexPath), nullptr);
+            QCOMPARE(up.done, 1);
+            QCOMPARE(up.reason(), UL_OK);
+        }
+        QCOMPARE(sim.flashRows(), QList<unsigned>({0x0000, 0x0400}));
+        QVERIFY(sim.command("flash reset"));
+        // ten refusals: no eleventh send
+        QVERIFY(sim.command("loader nak 10"));
+        {
+            UpLoader up(QString(hexPath), nullptr);
+            QCOMPARE(up.done, 0);
+            QCOMPARE(up.reason(), UL_ROW_REFUSED);
+        }
+        QVERIFY(sim.flashRows().isEmpty());
+        // a loader that refuses for ever
+        QVERIFY(sim.command("loader nak forever"));
+        {
+            UpLoader up(QString(hexPath), nullptr);
+            QCOMPARE(up.done, 0);
+            QCOMPARE(up.reason(), UL_ROW_REFUSED);
+        }
+        QVERIFY(sim.flashRows().isEmpty());
+        QCOMPARE(sim.powerLineLevel(), 0);
     }
 
     void badHexInputGivesWhatTheRulesSay()

@@ -111,7 +111,8 @@ public:
         // once it accepts clients.
         xvfb.setProgram("/usr/bin/Xvfb");
         xvfb.setArguments({"-displayfd", QString::number(fds[1]), "-screen", "0", "1024x600x24",
-                           "-dpi", "72", "-nolisten", "tcp", "-nolisten", "unix", "-noreset"});
+                           "-dpi", "72", "-br", "-nolisten", "tcp", "-nolisten", "unix",
+                           "-noreset"});
         xvfb.setChildProcessModifier([fds]() { ::close(fds[0]); });
         xvfb.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         xvfb.start();
@@ -205,22 +206,24 @@ public:
     QProcess program;
 };
 
-int whiteIn(const QImage& image, const QRect& area)
+int blackIn(const QImage& image, const QRect& area)
 {
     int count = 0;
     for (int y = area.top(); y <= area.bottom(); y++)
         for (int x = area.left(); x <= area.right(); x++)
-            if (image.pixel(x, y) == qRgb(255, 255, 255))
+            if (image.pixel(x, y) == qRgb(0, 0, 0))
                 count++;
     return count;
 }
 
+// The menu in the toolkit's light palette over the whole screen: dark labels
+// in each of the three columns.
 bool looksLikeMenu(const QImage& image)
 {
-    return image.size() == QSize(1024, 600) && image.pixel(512, 590) == qRgb(0, 0, 0) &&
-           whiteIn(image, QRect(0, menuTop, 341, 600 - menuTop)) > 500 &&
-           whiteIn(image, QRect(341, menuTop, 341, 600 - menuTop)) > 500 &&
-           whiteIn(image, QRect(682, menuTop, 342, 600 - menuTop)) > 500;
+    return image.size() == QSize(1024, 600) && QColor(image.pixel(512, 590)).lightness() > 200 &&
+           blackIn(image, QRect(0, menuTop, 341, 600 - menuTop)) > 500 &&
+           blackIn(image, QRect(341, menuTop, 341, 600 - menuTop)) > 500 &&
+           blackIn(image, QRect(682, menuTop, 342, 600 - menuTop)) > 500;
 }
 
 // The next steady screen that differs from `before` below the status bar,
@@ -338,6 +341,13 @@ private slots:
             QVERIFY2(QFileInfo(root.path(dir)).isDir(), dir);
         QCOMPARE(countFileDir(DIR_DATA_MEA_PANEL, COUNT_FILES), 0);
         QCOMPARE(countFileDir(DIR_DATA_MEA_STRING, COUNT_FILES), 0);
+        // the start-up's program of the device image is there and does nothing, quietly
+        QProcess myspi;
+        myspi.start(root.path("/home/myspi"), QStringList());
+        QVERIFY(myspi.waitForFinished(10000));
+        QCOMPARE(myspi.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(myspi.exitCode(), 0);
+        QCOMPARE(myspi.readAll(), QByteArray());
 
         // a dozen modules of several technologies, read through the file layer
         int modules = 0;
@@ -417,8 +427,8 @@ private slots:
         QVERIFY(sim.isRunning());
 
         const QImage menu = startToMainMenu(root, desktop, sim);
-        // The whole 1024 x 600 screen: black around the grid, the grid's labels
-        // in white across it, the icons in colour.
+        // The whole 1024 x 600 screen: the grid's labels dark on the light
+        // window across it, the icons in colour.
         QVERIFY2(!menu.isNull(), "no main menu on the screen");
         QCOMPARE(menu.size(), QSize(1024, 600));
         QVERIFY(desktop.program.state() == QProcess::Running);
@@ -452,12 +462,15 @@ private slots:
 
         // One Down leaves System for the archive of modules: Return there does
         // not open the settings.
+        // The mark of the focus moves with it.
         QVERIFY(tap(sim, "down"));
+        const QImage onArchive = changedFrom(desktop, menu, 5000);
+        QVERIFY2(!onArchive.isNull(), "the focus moved unseen");
         QVERIFY(tap(sim, "return"));
-        const QImage elsewhere = changedFrom(desktop, menu, 1500);
+        const QImage elsewhere = changedFrom(desktop, onArchive, 1500);
         if (!elsewhere.isNull()) {
             QVERIFY(!sameScreen(settings, elsewhere, menuTop));
-            QVERIFY(backToMenu(desktop, sim, menu));
+            QVERIFY(backToMenu(desktop, sim, onArchive));
         }
         // Up brings the focus back to System.
         QVERIFY(tap(sim, "up"));

@@ -79,7 +79,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
 
     void moduleTestFromTheMenuToTheSavedFile()

@@ -19,7 +19,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
 
     void remoteUnitWithoutIrradianceRefusesTheMeasure()

@@ -3,6 +3,7 @@
 #include "math/dpmax.h"
 #include "math/temperatura.h"
 #include "measure/panelfixture.h"
+#include "support/lookcheck.h"
 #include "support/modaldriver.h"
 #include "support/screenshot.h"
 #include "toolkit/embkeyboard.h"
@@ -73,7 +74,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
 
     void matchingModulePassesAndTenPercentBelowFails()
@@ -283,6 +284,10 @@ private slots:
         expectReference(driver, "SIM 250");
         touch(&panel, "Confronto");
         saveScreenshot(&panel, "panel_verdict");
+        {
+            const QStringList faults = legibilityFaults(&panel);
+            QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+        }
         touchMenu(&panel, "Potenza STC");
         QVERIFY(panel._powerStcShown);
         QCOMPARE(panel.plotter()->pmaxLabel, panel._pmaxStc);

@@ -1,10 +1,13 @@
 #include "math/rndf.h"
+#include "measure/dialogshutdown.h"
 #include "measure/panelfixture.h"
 #include "measure/screenkinds.h"
 #include "platform/clock.h"
 #include "shell/language.h"
 #include "support/modaldriver.h"
 #include "support/screenshot.h"
+#include "toolkit/infobar.h"
+#include "toolkit/look.h"
 
 #include <QLabel>
 #include <QRegularExpression>
@@ -92,6 +95,10 @@ template <class S> void heatSink65()
     QCOMPARE(driver.boxes[0].title, QString("Power Device"));
     QCOMPARE(driver.boxes[0].text, QString(coolingText()));
     QCOMPARE(driver.boxes[0].icon, QMessageBox::Warning);
+    // the box's title drawn on it, its texts legible
+    QCOMPARE(driver.boxes[0].drawnTitle, QString("Power Device"));
+    QVERIFY2(driver.boxes[0].legibility.isEmpty(),
+             qPrintable(driver.boxes[0].legibility.join('\n')));
     QVERIFY(!sim.boardCommands().join(' ').contains("mea_brask"));
     QVERIFY(!panel._measureDone);
     QVERIFY(!panel._curveValid);
@@ -423,14 +430,11 @@ template <class S> void exhaustedBattery()
     ModalDriver driver;
     QStringList seen;
     S* screen = nullptr;
-    // The module screen's hidden status bar polls the supply too and may open
-    // its dialog before the screen's own poll does; only the screen's own
-    // dialog marks the restoration.
-    bool screensOwn = false;
+    QWidget* opener = nullptr;
     Kind<S>::count(driver);
     driver.onNext([&](QWidget* w) {
         seen << w->metaObject()->className();
-        screensOwn = w->parentWidget() == screen;
+        opener = w->parentWidget();
         sim.setAdapter(true); // the charger comes
     });
     // The battery gives out once the first reading has passed; the dialog
@@ -449,13 +453,11 @@ template <class S> void exhaustedBattery()
     touch(&panel, "Start");
     QVERIFY(watch.done);
     QCOMPARE(seen, QStringList{"DialogShutDown"});
+    // the screen has no status bar: the dialog is its own
+    QCOMPARE(opener, static_cast<QWidget*>(screen));
     QCOMPARE(driver.boxes.size(), 1);
     QCOMPARE(driver.boxes[0].title, QString("Power Device"));
-    if (screensOwn)
-        QCOMPARE(driver.boxes[0].text, QString("Eseguito ripristino modulo potenza."));
-    else // the bar's dialog came first: the screen's own may or may not follow it
-        QVERIFY(driver.boxes[0].text == "Eseguito ripristino modulo potenza." ||
-                driver.boxes[0].text == "Problema di connessione al Power Device.");
+    QCOMPARE(driver.boxes[0].text, QString("Eseguito ripristino modulo potenza."));
     QCOMPARE(driver.boxes[0].icon, QMessageBox::Critical);
     QVERIFY(!panel._powerRestored);
     QVERIFY(!panel._measureDone);
@@ -466,6 +468,169 @@ template <class S> void exhaustedBattery()
     touch(&panel, "Start");
     QCOMPARE(driver.boxes.size(), 2);
     QCOMPARE(driver.boxes[1].text, QString("Problema di connessione al Power Device."));
+}
+
+// A NUL byte inside the ramp's data ends the reply's text before its status
+// line: a lost connection, never a good measure of zero points.
+template <class S> void nulInsideTheRamp()
+{
+    TestRoot root(0.01);
+    SimInstrument sim(root);
+    configure(root);
+    QVERIFY(world(sim, 850, 45));
+    QVERIFY(sim.command("board fault nul"));
+    ModalDriver driver;
+    Kind<S>::count(driver);
+    driver.answerBox();
+    S panel(nullptr);
+    panel.show();
+    touch(&panel, "Start");
+    QCOMPARE(driver.boxes.size(), 1);
+    QCOMPARE(driver.boxes[0].text, QString("Problema di connessione al Power Device."));
+    QCOMPARE(driver.boxes[0].icon, QMessageBox::Critical);
+    QVERIFY(!panel._measureDone);
+    QVERIFY(!child<QPushButton>(&panel, "Salva")->isEnabled());
+}
+
+// The measuring screens had a hidden status bar that polled the supply a
+// second time and could open a second low-battery dialog over their own; the
+// main menu's bar behind the screen polls as well. One dialog is open in the
+// program at a time, and whichever opened it, the board's next silence is
+// told as a restoration.
+template <class S> void oneBatteryDialog()
+{
+    TestRoot root(0.01);
+    SimInstrument sim(root);
+    configure(root);
+    QVERIFY(world(sim, 850, 45));
+    QVERIFY(sim.setAdapter(false));
+    InfoBar menuBar(nullptr); // the main menu's bar, polling behind the screen
+    ModalDriver driver;
+    int mostOpen = 0;
+    int dialogs = 0;
+    QTimer count;
+    QObject::connect(&count, &QTimer::timeout, [&] {
+        int open = 0;
+        for (QWidget* w : QApplication::topLevelWidgets())
+            open += qobject_cast<DialogShutDown*>(w) != nullptr && w->isVisible();
+        mostOpen = qMax(mostOpen, open);
+    });
+    count.start(0);
+    // should a second dialog open, the charger comes anyway and ends them
+    QTimer rescue;
+    rescue.setSingleShot(true);
+    QObject::connect(&rescue, &QTimer::timeout, [&] { sim.setAdapter(true); });
+    rescue.start(20000);
+    Kind<S>::count(driver);
+    driver.onNext([&](QWidget*) {
+        dialogs++;
+        // both polls go on inside the dialog for many of their periods
+        QTest::qWait(300);
+        sim.setAdapter(true);
+    });
+    ProgressWatch watch(Kind<S>::progress, [&] {
+        sim.forceAdc("battery", 27000);
+        sim.command("board fault nostatus once");
+        QTRY_VERIFY_WITH_TIMEOUT(dialogs > 0, 5000);
+    });
+    S panel(nullptr);
+    driver.answerBox();
+    panel.show();
+    touch(&panel, "Start");
+    QVERIFY(watch.done);
+    QCOMPARE(panel.template findChildren<InfoBar*>().size(), 0);
+    QCOMPARE(mostOpen, 1);
+    QCOMPARE(dialogs, 1);
+    QCOMPARE(driver.boxes.size(), 1);
+    QCOMPARE(driver.boxes[0].text, QString("Eseguito ripristino modulo potenza."));
+}
+
+// Qt 6 shows a progress dialog by itself once its minimum duration has passed
+// since it was built; the old toolkit showed one only on show() or once
+// setValue had passed that duration. A start refused by its first reading
+// never shows the measure's progress, however long its box stays.
+template <class S> void noMeasureProgressOverARefusal()
+{
+    TestRoot root(0.01);
+    SimInstrument sim(root);
+    configure(root);
+    QVERIFY(world(sim, 850, 45));
+    QVERIFY(sim.command("set pt100 open"));
+    ModalDriver driver;
+    QStringList shown;
+    Kind<S>::count(driver);
+    driver.onNext([&](QWidget* w) {
+        // longer than the 4 s a progress dialog waits by default
+        QTest::qWait(4500);
+        for (QWidget* top : QApplication::topLevelWidgets())
+            if (qobject_cast<QProgressDialog*>(top) != nullptr && top->isVisible())
+                shown << top->objectName();
+        static_cast<QMessageBox*>(w)->accept();
+    });
+    S panel(nullptr);
+    panel.show();
+    touch(&panel, "Start");
+    QCOMPARE(driver.pending(), 0);
+    // the environment's dialog was shown on purpose; the measure's never
+    QVERIFY2(!shown.contains("MeasureProgress"), qPrintable(shown.join(' ')));
+}
+
+// The board exchange runs event loops in which "Start" can be pressed again,
+// by touch or by the hardware key: the old instrument then started a measure
+// inside the measure.
+template <class S> void startDuringAMeasure()
+{
+    TestRoot root(0.01);
+    SimInstrument sim(root);
+    configure(root);
+    QVERIFY(world(sim, 850, 45));
+    QVERIFY(sim.command("board log clear"));
+    ModalDriver driver;
+    Kind<S>::count(driver);
+    S* screen = nullptr;
+    ProgressWatch watch(Kind<S>::progress, [&] {
+        child<QPushButton>(screen, "Start")->click();
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(screen, &press);
+    });
+    S panel(nullptr);
+    screen = &panel;
+    panel.show();
+    child<QPushButton>(&panel, "Start")->setFocus();
+    touch(&panel, "Start");
+    QVERIFY(watch.done);
+    QVERIFY(panel._measureDone);
+    QCOMPARE(driver.pending(), 0);
+    QCOMPARE(sim.boardCommands().filter("mea_brask").size(), 1);
+    QCOMPARE(sim.boardCommands().filter("temp_hsink").size(), 1);
+}
+
+// A "Start" whose second reading fails after the ramps were cleared left
+// "Salva" on for the earlier measure on the old instrument: saving then wrote
+// its figures with a ramp of zeros.
+template <class S> void startEndingWithoutACurve()
+{
+    TestRoot root(0.01);
+    SimInstrument sim(root);
+    configure(root);
+    QVERIFY(world(sim, 850, 45));
+    ModalDriver driver;
+    Kind<S>::count(driver);
+    S panel(nullptr);
+    panel.show();
+    touch(&panel, "Start");
+    QVERIFY(panel._measureDone);
+    QVERIFY(child<QPushButton>(&panel, "Salva")->isEnabled());
+    QVERIFY(coolHeatSink(sim));
+    Kind<S>::count(driver);
+    driver.answerBox();
+    ProgressWatch watch(Kind<S>::progress, [&] { sim.command("set pt100 open"); });
+    touch(&panel, "Start");
+    QVERIFY(watch.done);
+    QCOMPARE(driver.boxes.size(), 1);
+    QCOMPARE(driver.boxes[0].text, QString("Temperatura non rilevata."));
+    QVERIFY(!panel._measureDone);
+    QVERIFY(!child<QPushButton>(&panel, "Salva")->isEnabled());
 }
 
 template <class S> void twoGoodMeasures()
@@ -620,7 +785,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
 
     void goodMeasureDrawsTheCurveAndEnablesSave_data() { screens(); }
@@ -707,6 +872,25 @@ private slots:
     void exhaustedBatteryDuringARampOpensTheShutDownDialogAndTheNextSilenceIsARestoration()
     {
         ON_THE_SCREEN(exhaustedBattery);
+    }
+
+    void numberIsANumber_nulInsideTheRampIsALostConnection_data() { screens(); }
+    void numberIsANumber_nulInsideTheRampIsALostConnection() { ON_THE_SCREEN(nulInsideTheRamp); }
+    void oneBatteryDialogWithTheMenusBarBehindTheScreen_data() { screens(); }
+    void oneBatteryDialogWithTheMenusBarBehindTheScreen() { ON_THE_SCREEN(oneBatteryDialog); }
+    void qt6IsNotTheOldToolkit_noMeasureProgressOverARefusalBoxKeptOpen_data() { screens(); }
+    void qt6IsNotTheOldToolkit_noMeasureProgressOverARefusalBoxKeptOpen()
+    {
+        ON_THE_SCREEN(noMeasureProgressOverARefusal);
+    }
+
+    // ---- One measure at a time
+    void startPressedDuringAMeasureIsIgnored_data() { screens(); }
+    void startPressedDuringAMeasureIsIgnored() { ON_THE_SCREEN(startDuringAMeasure); }
+    void storedDataNeverLost_startEndingWithoutACurveTurnsSaveOff_data() { screens(); }
+    void storedDataNeverLost_startEndingWithoutACurveTurnsSaveOff()
+    {
+        ON_THE_SCREEN(startEndingWithoutACurve);
     }
 
     // ---- The measures menu

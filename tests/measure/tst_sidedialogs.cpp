@@ -107,6 +107,27 @@ private slots:
         QCOMPARE(driver.boxes.size(), 1);
         QCOMPARE(driver.boxes[0].title, QString("Degrado Percentuale"));
     }
+    // The old dialog took "nan" and "inf" through its bounds; a number is a number.
+    void numberIsANumber_ageingRefusesNanInfAndNumbersBeyondAFloat()
+    {
+        TestRoot root;
+        ModalDriver driver;
+        DialogDegrado d(nullptr, MEA_PANEL);
+        const QStringList texts{"nan", "NAN", "-nan", "inf", "+INF", "-infinity", "1e39"};
+        for (const QString& t : texts) {
+            driver.typeOnKeyboard(t);
+            driver.answerBox();
+            touchField(&d, "years");
+            driver.typeOnKeyboard(t);
+            driver.answerBox();
+            touchField(&d, "percent");
+        }
+        QCOMPARE(driver.boxes.size(), 2 * texts.size());
+        QCOMPARE(driver.boxes[0].informative, QString("Numero non valido : nan"));
+        QCOMPARE(d._years, 0.0f);
+        QCOMPARE(d._percent, 10.0f);
+        QVERIFY(!child<QPushButton>(&d, "Applica")->isEnabled());
+    }
     void ageingKeyboardLeftWithEscChangesNothing()
     {
         TestRoot root;
@@ -185,6 +206,17 @@ private slots:
         QCOMPARE(child<QLineEdit>(&d, "Commento")->text(), ok);
         QCOMPARE(driver.boxes.size(), 1);
     }
+    // The old copy kept 255 bytes, fewer than 255 characters in UTF-8:
+    // stored data is never lost.
+    void storedDataNeverLost_commentOf255AccentedCharactersIsCopiedWhole()
+    {
+        TestRoot root;
+        // the comment of the measure before, as read from its file
+        QString comment(255, QChar(0xE8));
+        DialogInfo d(nullptr, DLG_PANEL, comment);
+        QTest::mouseClick(child<QPushButton>(&d, "Salva"), Qt::LeftButton);
+        QCOMPARE(QByteArray(d._comment), comment.toUtf8());
+    }
     void savingCopiesDateTimeAndComment()
     {
         TestRoot root;
@@ -259,6 +291,20 @@ private slots:
         touchField(&d, "number");
         QCOMPARE(d._number, 3);
         QCOMPARE(driver.boxes.size(), 1);
+    }
+    void numberIsANumber_numberOfModulesRefusesNanAndInf()
+    {
+        TestRoot root;
+        ModalDriver driver;
+        DialogNumber d(nullptr, 3);
+        const QStringList texts{"nan", "inf", "-Infinity", "1e39"};
+        for (const QString& t : texts) {
+            driver.typeOnKeyboard(t);
+            driver.answerBox();
+            touchField(&d, "number");
+        }
+        QCOMPARE(d._number, 3);
+        QCOMPARE(driver.boxes.size(), texts.size());
     }
     void numberOfModulesHasNoUpperLimit()
     {

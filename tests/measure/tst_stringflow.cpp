@@ -5,6 +5,7 @@
 #include "shell/orvia.h"
 #include "support/modaldriver.h"
 #include "support/screenshot.h"
+#include "toolkit/look.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -146,7 +147,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
 
     // ---- The menu's "Stringa"

@@ -6,8 +6,10 @@
 #include "measure/dialogdatielettrici.h"
 #include "measure/panelfixture.h"
 #include "measure/screenkinds.h"
+#include "support/lookcheck.h"
 #include "support/modaldriver.h"
 #include "support/screenshot.h"
+#include "toolkit/look.h"
 
 #include <QDir>
 #include <QLineEdit>
@@ -51,7 +53,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
 
     // ---- Title and count
@@ -70,6 +72,8 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&screen));
         QTest::qWait(50); // maximised by the window system
         saveScreenshot(&screen, "string_title_before_start");
+        QStringList faults = legibilityFaults(&screen);
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
         // no model chosen: the title ends after " * "
         enterCount(driver, 4);
         touch(&screen, "Start");
@@ -77,6 +81,8 @@ private slots:
         QCOMPARE(screen.plotter()->title(), QString("String IV / 4 * "));
         QCOMPARE(screen._title, QString("String IV"));
         saveScreenshot(&screen, "string_title_after_start");
+        faults = legibilityFaults(&screen);
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
     }
     void referenceChosenBeforeTheFirstStartShowsTheTitleWithCount2()
     {

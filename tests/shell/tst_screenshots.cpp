@@ -1,12 +1,13 @@
+#include "data/datasetting.h"
 #include "measure/dialogcollegamenti.h"
 #include "measure/dialogdatielettrici.h"
 #include "measure/dialogdegrado.h"
 #include "measure/dialoginfo.h"
 #include "measure/dialognumber.h"
 #include "measure/dialogshutdown.h"
-#include "data/datasetting.h"
 #include "shell/language.h"
 #include "shell/orvia.h"
+#include "support/lookcheck.h"
 #include "support/screenshot.h"
 #include "support/siminstrument.h"
 #include "support/testroot.h"
@@ -40,6 +41,8 @@ class TestScreenshots : public QObject
         QImage picture(file);
         QVERIFY(!picture.isNull());
         QVERIFY(picture.width() <= 1024 && picture.height() <= 600);
+        const QStringList faults = legibilityFaults(w);
+        QVERIFY2(faults.isEmpty(), qPrintable(name + ":\n" + faults.join('\n')));
     }
 
 public:
@@ -49,7 +52,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
 
     void allScreensInFiveLanguages_data()

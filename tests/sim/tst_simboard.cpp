@@ -290,6 +290,17 @@ private slots:
         QVERIFY(reply.size() > 34);
         QVERIFY(reply.endsWith("ver\rKRM510PD FP 2.1 BRASK\rERROR 0\r"));
     }
+    void faultNulInTheData()
+    {
+        TestRoot root;
+        SimInstrument sim(root);
+        QVERIFY(sim.setBoardFault("nul"));
+        TermiosClient line(root.path("/dev/ttyS1"));
+        QByteArray reply = line.exchange("ver\r");
+        QCOMPARE(reply, QByteArray("ver\r\0KRM510PD FP 2.1 BRASK\rERROR 0\r", 35));
+        QVERIFY(sim.setBoardFault("none"));
+        QCOMPARE(line.exchange("ver\r"), QByteArray("ver\rKRM510PD FP 2.1 BRASK\rERROR 0\r"));
+    }
     void forcedReplyIsSentExactly()
     {
         TestRoot root;

@@ -1,5 +1,6 @@
 // The simulated remote unit on its serial line: both generations, the
 // "no value" answer, and the USB and Bluetooth links.
+#include "data/coredata.h"
 #include "platform/command.h"
 #include "support/siminstrument.h"
 #include "support/termiosclient.h"
@@ -44,9 +45,9 @@ private slots:
         QCOMPARE(major, 2);
         QCOMPARE(line.exchange("PYSENS 10.540000\r"), QByteArray());
         float irr = 0, cell = 0, env = 0;
-        QCOMPARE(sscanf(line.exchange("IRR\r").constData(), "%*s = %f %*s", &irr), 1);
-        QCOMPARE(sscanf(line.exchange("TEMPCELL\r").constData(), "%*s %*s = %f", &cell), 1);
-        QCOMPARE(sscanf(line.exchange("TEMPENV\r").constData(), "%*s %*s = %f", &env), 1);
+        QCOMPARE(cSscanf(line.exchange("IRR\r").constData(), "%*s = %f %*s", &irr), 1);
+        QCOMPARE(cSscanf(line.exchange("TEMPCELL\r").constData(), "%*s %*s = %f", &cell), 1);
+        QCOMPARE(cSscanf(line.exchange("TEMPENV\r").constData(), "%*s %*s = %f", &env), 1);
         QVERIFY(std::fabs(irr - 654.3f) < 0.06f);
         QVERIFY(std::fabs(cell - 41.2f) < 0.06f);
         QVERIFY(std::fabs(env - 18.4f) < 0.06f);
@@ -59,7 +60,7 @@ private slots:
         TermiosClient line(root.path("/dev/ttyUSB0"), 38400);
         line.exchange("PYSENS 21.080000\r");
         float irr = 0;
-        QCOMPARE(sscanf(line.exchange("IRR\r").constData(), "%*s = %f %*s", &irr), 1);
+        QCOMPARE(cSscanf(line.exchange("IRR\r").constData(), "%*s = %f %*s", &irr), 1);
         QVERIFY(std::fabs(irr - 500.0f) < 0.06f);
     }
     void noValueIsTwoDashes()

@@ -1,5 +1,7 @@
 #include "support/datafiles.h"
 
+#include <clocale>
+
 #include <QApplication>
 #include <QFile>
 #include <QProgressDialog>
@@ -38,6 +40,21 @@ FileSizeLimit::~FileSizeLimit()
 {
     setrlimit(RLIMIT_FSIZE, &saved);
     sigaction(SIGXFSZ, &savedAction, nullptr);
+}
+
+CommaLocale::CommaLocale() : saved(setlocale(LC_ALL, nullptr))
+{
+    for (const char* name : {"de_DE.UTF-8", "it_IT.UTF-8"}) {
+        if (setlocale(LC_ALL, name) != nullptr) {
+            on = true;
+            return;
+        }
+    }
+}
+
+CommaLocale::~CommaLocale()
+{
+    setlocale(LC_ALL, saved.constData());
 }
 
 ProgressProbe::ProgressProbe()

@@ -30,6 +30,23 @@ private:
     struct sigaction savedAction;
 };
 
+// While it lives, the process runs in a locale whose numbers take a decimal
+// comma (de_DE.UTF-8, or it_IT.UTF-8 when that is the one generated);
+// active() is false when the machine has neither.
+class CommaLocale
+{
+public:
+    CommaLocale();
+    ~CommaLocale();
+    CommaLocale(const CommaLocale&) = delete;
+    CommaLocale& operator=(const CommaLocale&) = delete;
+    bool active() const { return on; }
+
+private:
+    QByteArray saved;
+    bool on = false;
+};
+
 // What a progress dialog looked like while a list was being read.
 struct ProgressSeen {
     bool seen = false;

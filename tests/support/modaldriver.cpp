@@ -1,6 +1,8 @@
 #include "support/modaldriver.h"
 
+#include "support/lookcheck.h"
 #include "toolkit/embkeyboard.h"
+#include "toolkit/titlestrip.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -39,6 +41,23 @@ void ModalDriver::onNext(std::function<void(QWidget*)> action)
     actions.append(action);
 }
 
+std::function<void(QWidget*)> ModalDriver::windowAction(const char* className,
+                                                        std::function<void(QWidget*)> action)
+{
+    return [this, className, action](QWidget* w) {
+        if (!w->inherits(className)) {
+            actions.prepend(windowAction(className, action)); // still the next one
+            return;
+        }
+        action(w);
+    };
+}
+
+void ModalDriver::onWindow(const char* className, std::function<void(QWidget*)> action)
+{
+    actions.append(windowAction(className, action));
+}
+
 void ModalDriver::answerBox(QMessageBox::StandardButton button)
 {
     onNext([this, button](QWidget* w) {
@@ -50,7 +69,11 @@ void ModalDriver::answerBox(QMessageBox::StandardButton button)
                 d->reject();
             return;
         }
-        boxes.append(Box{box->windowTitle(), box->text(), box->informativeText(), box->icon()});
+        Box seen{box->windowTitle(), box->text(), box->informativeText(), box->icon()};
+        if (const TitleStrip* strip = TitleStrip::of(box))
+            seen.drawnTitle = strip->text();
+        seen.legibility = legibilityFaults(box);
+        boxes.append(seen);
         QAbstractButton* b = box->button(button);
         if (b != nullptr)
             b->click();
@@ -112,7 +135,8 @@ void ModalDriver::typeOnKeyboard(const QString& text, bool accept)
     onNext([this, text, accept](QWidget* w) {
         EmbKeyboard* keyboard = qobject_cast<EmbKeyboard*>(w);
         if (keyboard == nullptr) {
-            keyboardTitles.append(QString("<not a keyboard: %1>").arg(w->metaObject()->className()));
+            keyboardTitles.append(
+                QString("<not a keyboard: %1>").arg(w->metaObject()->className()));
             if (QDialog* d = qobject_cast<QDialog*>(w))
                 d->reject();
             return;

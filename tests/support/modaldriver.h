@@ -25,6 +25,10 @@ public:
         QString text;
         QString informative;
         QMessageBox::Icon icon;
+        // the title as the program draws it on the box, and what is hard to
+        // read on it (see lookcheck.h)
+        QString drawnTitle = QString();
+        QStringList legibility = QStringList();
     };
 
     ModalDriver();
@@ -37,6 +41,10 @@ public:
     void typeOnKeyboard(const QString& text, bool accept = true);
     // Expect any modal window and run the action on it.
     void onNext(std::function<void(QWidget*)> action);
+    // Expect a modal window of the class named and run the action on it; any
+    // other modal window met first (a progress dialog, the screen under a
+    // closed dialog) is passed over and the action waits on.
+    void onWindow(const char* className, std::function<void(QWidget*)> action);
 
     // Touches keys of an open keyboard; usable from an action too.
     static void touchKey(EmbKeyboard* keyboard, const QString& objectName);
@@ -51,6 +59,8 @@ private slots:
     void poll();
 
 private:
+    std::function<void(QWidget*)> windowAction(const char* className,
+                                               std::function<void(QWidget*)> action);
     QList<std::function<void(QWidget*)>> actions;
     QPointer<QWidget> last; // a deleted window frees its address for the next one
     QTimer timer;

@@ -47,12 +47,6 @@ void useInstrumentDpi()
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi, false);
 }
 
-QFont instrumentFont()
-{
-    QFont font("helvetica", 38, QFont::Bold, false);
-    return font;
-}
-
 QString saveScreenshot(QWidget* widget, const QString& name)
 {
     if (!widget || name.isEmpty() || !QDir().mkpath(screenshotDir()))

@@ -1,7 +1,8 @@
 #ifndef KRM_TESTS_SCREENSHOT_H
 #define KRM_TESTS_SCREENSHOT_H
 
-#include <QFont>
+#include "toolkit/look.h"
+
 #include <QString>
 
 class QWidget;
@@ -18,9 +19,6 @@ void useInstrumentScreen();
 // then be larger than the widget measures it. Call it from initTestCase() to
 // give pictures the screen's resolution again, as in the program.
 void useInstrumentDpi();
-
-// The application font of the instrument: "helvetica", 38 points, bold.
-QFont instrumentFont();
 
 // Renders the widget and its children into
 // <build dir>/screenshots/<name>.png. Returns the path of the file, or an

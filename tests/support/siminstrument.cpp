@@ -3,6 +3,7 @@
 #include "support/testroot.h"
 
 #include <QFile>
+#include <QTest>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -18,7 +19,8 @@
 #error "KRM_SIMD_PATH must name the krm510-simd binary"
 #endif
 
-namespace {
+namespace
+{
 
 void pauseMs(int ms)
 {
@@ -116,7 +118,8 @@ void SimInstrument::start(bool fast, const QStringList& scenario)
 
 bool SimInstrument::isRunning() const
 {
-    return pid > 0 && call("ping").startsWith("ok krm510-simd pid=" + QByteArray::number(pid) + " ");
+    return pid > 0 &&
+           call("ping").startsWith("ok krm510-simd pid=" + QByteArray::number(pid) + " ");
 }
 
 bool SimInstrument::stop()
@@ -154,7 +157,8 @@ QByteArray SimInstrument::call(const QByteArray& line) const
     address.sun_family = AF_UNIX;
     int dirFd = -1;
     if (static_cast<size_t>(path.size()) >= sizeof address.sun_path) {
-        dirFd = ::open((rootPath.toLocal8Bit() + "/dev").constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+        dirFd =
+            ::open((rootPath.toLocal8Bit() + "/dev").constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
         path = "/proc/self/fd/" + QByteArray::number(dirFd) + "/krm510-sim.sock";
     }
     memcpy(address.sun_path, path.constData(), static_cast<size_t>(path.size()) + 1);
@@ -264,6 +268,19 @@ bool SimInstrument::pressKey(const char* key) const
 bool SimInstrument::releaseKey(const char* key) const
 {
     return command(QByteArray("key release ") + key);
+}
+
+bool SimInstrument::tapKey(const char* key) const
+{
+    static const char* const lines[][2] = {{"escape", "93"}, {"up", "86"},   {"backtab", "89"},
+                                           {"return", "75"}, {"down", "81"}, {"tab", "88"}};
+    QByteArray line;
+    for (const auto& l : lines)
+        if (qstrcmp(l[0], key) == 0)
+            line = l[1];
+    if (line.isEmpty() || !command(QByteArray("key tap ") + key))
+        return false;
+    return QTest::qWaitFor([&] { return field("gpio " + line, "tap") == "0"; }, 5000);
 }
 
 bool SimInstrument::stickIn() const

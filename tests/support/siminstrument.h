@@ -24,8 +24,10 @@ class TestRoot;
 class SimInstrument
 {
 public:
-    explicit SimInstrument(const TestRoot& root, bool fast = true, const QStringList& scenario = {});
-    explicit SimInstrument(const QString& rootPath, bool fast = true, const QStringList& scenario = {});
+    explicit SimInstrument(const TestRoot& root, bool fast = true,
+                           const QStringList& scenario = {});
+    explicit SimInstrument(const QString& rootPath, bool fast = true,
+                           const QStringList& scenario = {});
     ~SimInstrument();
     SimInstrument(const SimInstrument&) = delete;
     SimInstrument& operator=(const SimInstrument&) = delete;
@@ -57,6 +59,10 @@ public:
     // Keys: "escape", "up", "backtab", "return", "down", "tab".
     bool pressKey(const char* key) const;
     bool releaseKey(const char* key) const;
+    // One quick press, as a finger gives it: the line reads low once, so one
+    // key poller (the one of the window in front) sees it. Serves events
+    // until a poller has read it, and so has sent the key; false after 5 s.
+    bool tapKey(const char* key) const;
     bool stickIn() const;
     bool stickOut() const;
     QString stickPath() const; // host folder of the stick's content

@@ -1,5 +1,6 @@
-#include "toolkit/plotter.h"
+#include "support/lookcheck.h"
 #include "support/screenshot.h"
+#include "toolkit/plotter.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -189,7 +190,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
 
     // ---- construction
@@ -273,7 +274,9 @@ private slots:
         s.plot.setPlotSettings(PlotSettings());
         QVERIFY(!fs->isHidden());
     }
-    void resizePlacesTheButtonsAtTheTopRight()
+    // The old instrument put "FS" at a fixed height of 35, which the
+    // instrument's font makes overlap "Out": it stands 5 pixels under it.
+    void resizePlacesTheButtonsAtTheTopRight_operatorSeesWhereTheyAre()
     {
         Shown s(800, 400);
         QToolButton* in = button(s.plot, "In");
@@ -282,7 +285,7 @@ private slots:
         const int x = 800 - in->width() - out->width() - 10;
         QCOMPARE(in->pos(), QPoint(x, 5));
         QCOMPARE(out->pos(), QPoint(x + in->width() + 5, 5));
-        QCOMPARE(fs->pos(), QPoint(x + in->width() + 5, 35));
+        QCOMPARE(fs->pos(), QPoint(x + in->width() + 5, 5 + out->height() + 5));
         s.plot.resize(600, 300);
         const int x2 = 600 - in->width() - out->width() - 10;
         QCOMPARE(in->pos(), QPoint(x2, 5));
@@ -1139,6 +1142,23 @@ private slots:
         plot->setViewPassTest(true);
         path = saveScreenshot(&screen, "plotter-verdict-ok");
         QVERIFY(!path.isEmpty());
+        // every text of the plot legible, its painter's fonts included
+        QStringList faults = legibilityFaults(&screen);
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+        QVERIFY(!plot->drawnTextFonts().isEmpty());
+        // the contrast of the labels against the plot's background, measured
+        // on the picture: the tick labels left of the grid
+        {
+            const QImage picture = grabScreen(plot);
+            const QColor background(picture.pixel(Plotter::Margin + 40, Plotter::Margin + 40));
+            double strongest = 1.0;
+            for (int y = Plotter::Margin; y < plot->height() - 30; ++y)
+                for (int x = 0; x < Plotter::Margin - 6; ++x)
+                    strongest =
+                        std::max(strongest, contrastRatio(QColor(picture.pixel(x, y)), background));
+            qInfo("plot labels against the background: %.2f:1 (background %s)", strongest,
+                  qPrintable(background.name()));
+        }
         plot->testResult = 0;
         plot->refreshPixmap();
         QVERIFY(!saveScreenshot(&screen, "plotter-verdict-no").isEmpty());
@@ -1149,6 +1169,10 @@ private slots:
         QTest::mouseRelease(plot, Qt::LeftButton, Qt::NoModifier, {900, 300});
         QCOMPARE(plot->currentZoom(), 1);
         QVERIFY(!saveScreenshot(&screen, "plotter-zoomed").isEmpty());
+        // "FS" stands 5 pixels under "Out", whatever the font makes their height
+        QToolButton* out = button(*plot, "Out");
+        QVERIFY(out->isVisible());
+        QCOMPARE(button(*plot, "FS")->y(), out->y() + out->height() + 5);
 
         QTest::mouseClick(button(*plot, "FS"), Qt::LeftButton);
         QVERIFY(bar->isHidden());

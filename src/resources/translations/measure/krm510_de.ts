@@ -12,7 +12,7 @@
 <context>
     <name>DialogDatiElettrici</name>
     <message>
-        <location filename="../../../measure/dialogdatielettrici.cpp" line="+20"/>
+        <location filename="../../../measure/dialogdatielettrici.cpp" line="+21"/>
         <source>Dati Elettrici Misurati</source>
         <translation>Gemessene elektrische Daten</translation>
     </message>
@@ -25,7 +25,7 @@
 <context>
     <name>DialogDegrado</name>
     <message>
-        <location filename="../../../measure/dialogdegrado.cpp" line="+20"/>
+        <location filename="../../../measure/dialogdegrado.cpp" line="+21"/>
         <source>Degrado Modulo</source>
         <translation>Moduldegradation</translation>
     </message>
@@ -75,7 +75,7 @@
         <translation>Moduldegradation : Degradation %</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+10"/>
         <source>Degrado Anni</source>
         <translation>Degradation Jahre</translation>
     </message>
@@ -94,7 +94,7 @@
 <context>
     <name>DialogInfo</name>
     <message>
-        <location filename="../../../measure/dialoginfo.cpp" line="+28"/>
+        <location filename="../../../measure/dialoginfo.cpp" line="+31"/>
         <source>Salvataggio Misure Stringhe</source>
         <translation>Stringmessungen speichern</translation>
     </message>
@@ -190,7 +190,7 @@
 <context>
     <name>DialogShutDown</name>
     <message>
-        <location filename="../../../measure/dialogshutdown.cpp" line="+16"/>
+        <location filename="../../../measure/dialogshutdown.cpp" line="+36"/>
         <source>Batteria</source>
         <translation>Akku</translation>
     </message>
@@ -208,7 +208,7 @@
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+66"/>
+        <location filename="../../../measure/panelIV.cpp" line="+69"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -258,12 +258,12 @@
         <translation>Leistung</translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+54"/>
         <source>Misura Modulo...</source>
         <translation>Modulmessung...</translation>
     </message>
     <message>
-        <location line="+49"/>
+        <location line="+61"/>
         <source>Generazione Grafico...</source>
         <translation>Grafik wird erstellt...</translation>
     </message>
@@ -322,7 +322,7 @@ Gerät überhitzt.
 Vor weiteren Tests bitte warten.</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+8"/>
         <source>Eseguito ripristino modulo potenza.</source>
         <translation>Wiederherstellung des Power Device.</translation>
     </message>
@@ -333,7 +333,7 @@ Vor weiteren Tests bitte warten.</translation>
     </message>
     <message>
         <location line="+22"/>
-        <location line="+48"/>
+        <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Umgebungsmessung</translation>
     </message>
@@ -379,7 +379,7 @@ Vor weiteren Tests bitte warten.</translation>
         <translation>Einstrahlung zu niedrig (&lt; </translation>
     </message>
     <message>
-        <location line="+53"/>
+        <location line="+20"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Einstrahlung sehr variabel</translation>
     </message>
@@ -391,12 +391,12 @@ Ripetere.</source>
 Bitte wiederholen.</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+35"/>
         <source>Temperatura fuori limite.</source>
         <translation>Temperatur von Grenzen.</translation>
     </message>
     <message>
-        <location line="+126"/>
+        <location line="+120"/>
         <source>Misura Salvata.</source>
         <translation>Messung gespeichert.</translation>
     </message>
@@ -414,7 +414,7 @@ Bitte wiederholen.</translation>
 <context>
     <name>ReferencePanel</name>
     <message>
-        <location filename="../../../measure/refpanel.cpp" line="+45"/>
+        <location filename="../../../measure/refpanel.cpp" line="+82"/>
         <source>Modulo di Riferimento</source>
         <translation>Referenzmodul</translation>
     </message>
@@ -463,7 +463,7 @@ Bitte wiederholen.</translation>
 <context>
     <name>StringIV</name>
     <message>
-        <location filename="../../../measure/stringIV.cpp" line="+68"/>
+        <location filename="../../../measure/stringIV.cpp" line="+70"/>
         <source>String IV</source>
         <translation>String IV</translation>
     </message>
@@ -518,7 +518,7 @@ Bitte wiederholen.</translation>
         <translation>Stringmessung...</translation>
     </message>
     <message>
-        <location line="+60"/>
+        <location line="+61"/>
         <source>Generazione Grafico...</source>
         <translation>Grafik wird erstellt...</translation>
     </message>
@@ -577,7 +577,7 @@ Gerät überhitzt.
 Vor weiteren Tests bitte warten.</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+8"/>
         <source>Eseguito ripristino modulo potenza.</source>
         <translation>Wiederherstellung des Power Device.</translation>
     </message>
@@ -634,7 +634,7 @@ Vor weiteren Tests bitte warten.</translation>
         <translation>Einstrahlung zu niedrig (&lt; </translation>
     </message>
     <message>
-        <location line="+53"/>
+        <location line="+19"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Einstrahlung sehr variabel</translation>
     </message>
@@ -646,12 +646,12 @@ Ripetere.</source>
 Bitte wiederholen.</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+35"/>
         <source>Temperatura fuori limite.</source>
         <translation>Temperatur von Grenzen.</translation>
     </message>
     <message>
-        <location line="+129"/>
+        <location line="+123"/>
         <source>Misura Salvata.</source>
         <translation>Messung gespeichert.</translation>
     </message>

@@ -12,7 +12,7 @@
 <context>
     <name>DialogDatiElettrici</name>
     <message>
-        <location filename="../../../measure/dialogdatielettrici.cpp" line="+20"/>
+        <location filename="../../../measure/dialogdatielettrici.cpp" line="+21"/>
         <source>Dati Elettrici Misurati</source>
         <translation>Measured electrical data</translation>
     </message>
@@ -25,7 +25,7 @@
 <context>
     <name>DialogDegrado</name>
     <message>
-        <location filename="../../../measure/dialogdegrado.cpp" line="+20"/>
+        <location filename="../../../measure/dialogdegrado.cpp" line="+21"/>
         <source>Degrado Modulo</source>
         <translation>Module degradation</translation>
     </message>
@@ -75,7 +75,7 @@
         <translation>Module degradation : Degradation %</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+10"/>
         <source>Degrado Anni</source>
         <translation>Degradation years</translation>
     </message>
@@ -94,7 +94,7 @@
 <context>
     <name>DialogInfo</name>
     <message>
-        <location filename="../../../measure/dialoginfo.cpp" line="+28"/>
+        <location filename="../../../measure/dialoginfo.cpp" line="+31"/>
         <source>Salvataggio Misure Stringhe</source>
         <translation>Save string measures</translation>
     </message>
@@ -190,7 +190,7 @@
 <context>
     <name>DialogShutDown</name>
     <message>
-        <location filename="../../../measure/dialogshutdown.cpp" line="+16"/>
+        <location filename="../../../measure/dialogshutdown.cpp" line="+36"/>
         <source>Batteria</source>
         <translation>Battery</translation>
     </message>
@@ -208,7 +208,7 @@
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+66"/>
+        <location filename="../../../measure/panelIV.cpp" line="+69"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -258,12 +258,12 @@
         <translation>Power</translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+54"/>
         <source>Misura Modulo...</source>
         <translation>Module measure...</translation>
     </message>
     <message>
-        <location line="+49"/>
+        <location line="+61"/>
         <source>Generazione Grafico...</source>
         <translation>Drawing the graph...</translation>
     </message>
@@ -322,7 +322,7 @@ Instrument overheated.
 Wait before resuming the tests.</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+8"/>
         <source>Eseguito ripristino modulo potenza.</source>
         <translation>Power module restore done.</translation>
     </message>
@@ -333,7 +333,7 @@ Wait before resuming the tests.</translation>
     </message>
     <message>
         <location line="+22"/>
-        <location line="+48"/>
+        <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Environment measures</translation>
     </message>
@@ -379,7 +379,7 @@ Wait before resuming the tests.</translation>
         <translation>Insufficient irradiance (&lt; </translation>
     </message>
     <message>
-        <location line="+53"/>
+        <location line="+20"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Highly variable solar radiation</translation>
     </message>
@@ -391,12 +391,12 @@ Ripetere.</source>
 Repeat.</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+35"/>
         <source>Temperatura fuori limite.</source>
         <translation>Outside temperature limit.</translation>
     </message>
     <message>
-        <location line="+126"/>
+        <location line="+120"/>
         <source>Misura Salvata.</source>
         <translation>Saved measure.</translation>
     </message>
@@ -414,7 +414,7 @@ Repeat.</translation>
 <context>
     <name>ReferencePanel</name>
     <message>
-        <location filename="../../../measure/refpanel.cpp" line="+45"/>
+        <location filename="../../../measure/refpanel.cpp" line="+82"/>
         <source>Modulo di Riferimento</source>
         <translation>Reference module</translation>
     </message>
@@ -463,7 +463,7 @@ Repeat.</translation>
 <context>
     <name>StringIV</name>
     <message>
-        <location filename="../../../measure/stringIV.cpp" line="+68"/>
+        <location filename="../../../measure/stringIV.cpp" line="+70"/>
         <source>String IV</source>
         <translation>String IV</translation>
     </message>
@@ -518,7 +518,7 @@ Repeat.</translation>
         <translation>String measure...</translation>
     </message>
     <message>
-        <location line="+60"/>
+        <location line="+61"/>
         <source>Generazione Grafico...</source>
         <translation>Drawing the graph...</translation>
     </message>
@@ -577,7 +577,7 @@ Instrument overheated.
 Wait before resuming the tests.</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+8"/>
         <source>Eseguito ripristino modulo potenza.</source>
         <translation>Power module restore done.</translation>
     </message>
@@ -634,7 +634,7 @@ Wait before resuming the tests.</translation>
         <translation>Insufficient irradiance (&lt; </translation>
     </message>
     <message>
-        <location line="+53"/>
+        <location line="+19"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Highly variable solar radiation</translation>
     </message>
@@ -646,12 +646,12 @@ Ripetere.</source>
 Repeat.</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+35"/>
         <source>Temperatura fuori limite.</source>
         <translation>Outside temperature limit.</translation>
     </message>
     <message>
-        <location line="+129"/>
+        <location line="+123"/>
         <source>Misura Salvata.</source>
         <translation>Saved measure.</translation>
     </message>

@@ -12,7 +12,7 @@
 <context>
     <name>DialogDatiElettrici</name>
     <message>
-        <location filename="../../../measure/dialogdatielettrici.cpp" line="+20"/>
+        <location filename="../../../measure/dialogdatielettrici.cpp" line="+21"/>
         <source>Dati Elettrici Misurati</source>
         <translation>Datos eléctricos medidos</translation>
     </message>
@@ -25,7 +25,7 @@
 <context>
     <name>DialogDegrado</name>
     <message>
-        <location filename="../../../measure/dialogdegrado.cpp" line="+20"/>
+        <location filename="../../../measure/dialogdegrado.cpp" line="+21"/>
         <source>Degrado Modulo</source>
         <translation>Degradación módulo</translation>
     </message>
@@ -75,7 +75,7 @@
         <translation>Degradación módulo : Degradación %</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+10"/>
         <source>Degrado Anni</source>
         <translation>Degradación años</translation>
     </message>
@@ -94,7 +94,7 @@
 <context>
     <name>DialogInfo</name>
     <message>
-        <location filename="../../../measure/dialoginfo.cpp" line="+28"/>
+        <location filename="../../../measure/dialoginfo.cpp" line="+31"/>
         <source>Salvataggio Misure Stringhe</source>
         <translation>Guardar medidas string</translation>
     </message>
@@ -190,7 +190,7 @@
 <context>
     <name>DialogShutDown</name>
     <message>
-        <location filename="../../../measure/dialogshutdown.cpp" line="+16"/>
+        <location filename="../../../measure/dialogshutdown.cpp" line="+36"/>
         <source>Batteria</source>
         <translation>Batería</translation>
     </message>
@@ -208,7 +208,7 @@
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+66"/>
+        <location filename="../../../measure/panelIV.cpp" line="+69"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -258,12 +258,12 @@
         <translation>Potencia</translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+54"/>
         <source>Misura Modulo...</source>
         <translation>Medida módulo...</translation>
     </message>
     <message>
-        <location line="+49"/>
+        <location line="+61"/>
         <source>Generazione Grafico...</source>
         <translation>Generación del gráfico...</translation>
     </message>
@@ -322,7 +322,7 @@ Instrumento sobrecalentado.
 Esperar antes de reanudar las pruebas.</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+8"/>
         <source>Eseguito ripristino modulo potenza.</source>
         <translation>Reanudada conexión al módulo de potencia.</translation>
     </message>
@@ -333,7 +333,7 @@ Esperar antes de reanudar las pruebas.</translation>
     </message>
     <message>
         <location line="+22"/>
-        <location line="+48"/>
+        <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Adquisición medidas ambientales</translation>
     </message>
@@ -379,7 +379,7 @@ Esperar antes de reanudar las pruebas.</translation>
         <translation>Irradiancia insuficiente (&lt; </translation>
     </message>
     <message>
-        <location line="+53"/>
+        <location line="+20"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Valor de la irradiancia inestable</translation>
     </message>
@@ -391,12 +391,12 @@ Ripetere.</source>
 Repita et test.</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+35"/>
         <source>Temperatura fuori limite.</source>
         <translation>Temperatura fuera límite.</translation>
     </message>
     <message>
-        <location line="+126"/>
+        <location line="+120"/>
         <source>Misura Salvata.</source>
         <translation>Medida guardada.</translation>
     </message>
@@ -414,7 +414,7 @@ Repita et test.</translation>
 <context>
     <name>ReferencePanel</name>
     <message>
-        <location filename="../../../measure/refpanel.cpp" line="+45"/>
+        <location filename="../../../measure/refpanel.cpp" line="+82"/>
         <source>Modulo di Riferimento</source>
         <translation>Módulo de referencia</translation>
     </message>
@@ -463,7 +463,7 @@ Repita et test.</translation>
 <context>
     <name>StringIV</name>
     <message>
-        <location filename="../../../measure/stringIV.cpp" line="+68"/>
+        <location filename="../../../measure/stringIV.cpp" line="+70"/>
         <source>String IV</source>
         <translation>String IV</translation>
     </message>
@@ -518,7 +518,7 @@ Repita et test.</translation>
         <translation>Medida string...</translation>
     </message>
     <message>
-        <location line="+60"/>
+        <location line="+61"/>
         <source>Generazione Grafico...</source>
         <translation>Generación del gráfico...</translation>
     </message>
@@ -577,7 +577,7 @@ Instrumento sobrecalentado.
 Esperar antes de reanudar las pruebas.</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+8"/>
         <source>Eseguito ripristino modulo potenza.</source>
         <translation>Reanudada conexión al módulo de potencia.</translation>
     </message>
@@ -634,7 +634,7 @@ Esperar antes de reanudar las pruebas.</translation>
         <translation>Irradiancia insuficiente (&lt; </translation>
     </message>
     <message>
-        <location line="+53"/>
+        <location line="+19"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Valor de la irradiancia inestable</translation>
     </message>
@@ -646,12 +646,12 @@ Ripetere.</source>
 Repita et test.</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+35"/>
         <source>Temperatura fuori limite.</source>
         <translation>Temperatura fuera límite.</translation>
     </message>
     <message>
-        <location line="+129"/>
+        <location line="+123"/>
         <source>Misura Salvata.</source>
         <translation>Medida guardada.</translation>
     </message>

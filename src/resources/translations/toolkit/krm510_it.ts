@@ -22,7 +22,7 @@
         <translation>Impostazione KRM510</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+15"/>
         <source>Numero Seriale</source>
         <translation>Numero Seriale</translation>
     </message>
@@ -93,13 +93,13 @@
     </message>
     <message>
         <location line="+3"/>
-        <location line="+258"/>
+        <location line="+277"/>
         <location line="+1"/>
         <source>Irraggiamento Minimo</source>
         <translation>Irraggiamento Minimo</translation>
     </message>
     <message>
-        <location line="-256"/>
+        <location line="-275"/>
         <source>Locale</source>
         <translation>Locale</translation>
     </message>
@@ -169,7 +169,7 @@
         <translation>Memoria occupata</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+14"/>
         <source>Applica</source>
         <translation>Applica</translation>
     </message>
@@ -184,7 +184,7 @@
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+104"/>
+        <location line="+108"/>
         <source>Bluetooh MAC (formato AA:BB:CC:DD:EE:FF)</source>
         <translation>Bluetooth MAC (formato AA:BB:CC:DD:EE:FF)</translation>
     </message>
@@ -219,7 +219,12 @@
         <translation>Il nome non può essere nullo.</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+8"/>
+        <source>Nome non valido.</source>
+        <translation>Nome non valido.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
         <source>Temperatura Manuale (°C)</source>
         <translation>Temperatura Manuale (°C)</translation>
     </message>
@@ -248,8 +253,8 @@
 <context>
     <name>EmbKeyboard</name>
     <message>
-        <location filename="../../../toolkit/embkeyboard.cpp" line="+42"/>
-        <location line="+55"/>
+        <location filename="../../../toolkit/embkeyboard.cpp" line="+43"/>
+        <location line="+60"/>
         <location line="+54"/>
         <location line="+23"/>
         <location line="+46"/>
@@ -258,32 +263,32 @@
         <translation>CAPS</translation>
     </message>
     <message>
-        <location line="-175"/>
-        <location line="+75"/>
+        <location line="-180"/>
+        <location line="+80"/>
         <location line="+84"/>
         <location filename="../../../toolkit/qkeypushbutton.cpp" line="+0"/>
         <source>LEFT</source>
         <translation>LEFT</translation>
     </message>
     <message>
-        <location line="-156"/>
-        <location line="+73"/>
+        <location line="-161"/>
+        <location line="+78"/>
         <location line="+86"/>
         <location filename="../../../toolkit/qkeypushbutton.cpp" line="+1"/>
         <source>RIGHT</source>
         <translation>RIGHT</translation>
     </message>
     <message>
-        <location line="-156"/>
-        <location line="+37"/>
+        <location line="-161"/>
+        <location line="+42"/>
         <location line="+122"/>
         <location filename="../../../toolkit/qkeypushbutton.cpp" line="-3"/>
         <source>BACK</source>
         <translation>BACK</translation>
     </message>
     <message>
-        <location line="-156"/>
-        <location line="+52"/>
+        <location line="-161"/>
+        <location line="+57"/>
         <location line="+96"/>
         <location line="+42"/>
         <location filename="../../../toolkit/qkeypushbutton.cpp" line="+0"/>
@@ -325,7 +330,7 @@
 <context>
     <name>Plotter</name>
     <message>
-        <location filename="../../../toolkit/plotter.cpp" line="+308"/>
+        <location filename="../../../toolkit/plotter.cpp" line="+327"/>
         <source>Ok</source>
         <translation>Ok</translation>
     </message>

@@ -1,0 +1,165 @@
+#include "device/keyfront.h"
+
+#include "device/keyboard.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QPushButton>
+
+namespace
+{
+
+QPointer<KeyFront> installed;
+// The list the keys walk now: entered by Return, left by Return or Escape.
+QPointer<QAbstractItemView> enteredList;
+
+// A finger on the point of a widget: press and release.
+void touchAt(QWidget* widget, const QPoint& at)
+{
+    QPointer<QWidget> guard(widget);
+    const QPointF global = widget->mapToGlobal(at);
+    QMouseEvent press(QEvent::MouseButtonPress, at, global, Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &press);
+    if (guard.isNull())
+        return;
+    QMouseEvent release(QEvent::MouseButtonRelease, at, global, Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &release);
+}
+
+void sendKey(QWidget* target, int key)
+{
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(), false, 1);
+    QCoreApplication::sendEvent(target, &press);
+}
+
+// The keys on an entered list: true when the key was the list's.
+bool walkList(QAbstractItemView* list, int key)
+{
+    switch (key) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        sendKey(list, key); // the view moves its current row and selection
+        return true;
+    case Qt::Key_Return: {
+        enteredList = nullptr;
+        QModelIndex row = list->currentIndex();
+        if (row.isValid()) {
+            list->scrollTo(row);
+            touchAt(list->viewport(), list->visualRect(row).center());
+        }
+        return true;
+    }
+    case Qt::Key_Escape:
+        enteredList = nullptr;
+        return true;
+    default:
+        enteredList = nullptr; // Tab and Backtab walk on from the list
+        return false;
+    }
+}
+
+bool enterList(QAbstractItemView* list)
+{
+    QAbstractItemModel* model = list->model();
+    if (model == nullptr || model->rowCount(list->rootIndex()) == 0)
+        return false;
+    enteredList = list;
+    if (!list->currentIndex().isValid())
+        list->setCurrentIndex(model->index(0, 0, list->rootIndex()));
+    return true;
+}
+
+} // namespace
+
+KeyFront::KeyFront(QObject* parent) : QObject(parent) {}
+
+void KeyFront::install()
+{
+    if (!installed.isNull() || qApp == nullptr)
+        return;
+    installed = new KeyFront(qApp);
+    qApp->installEventFilter(installed);
+}
+
+bool KeyFront::serves(const QWidget* poller)
+{
+    // a popup has no poller: the window it was opened from serves it
+    QWidget* window = QApplication::activePopupWidget();
+    if (window != nullptr)
+        window = window->parentWidget() != nullptr ? window->parentWidget()->window() : nullptr;
+    if (window == nullptr)
+        window = QApplication::activeModalWidget();
+    if (window == nullptr)
+        window = QApplication::activeWindow();
+    // with nothing in front every poller serves its own window
+    return window == nullptr || window == poller->window();
+}
+
+bool KeyFront::take(QWidget* poller, int key, bool plainWalk)
+{
+    if (QWidget* popup = QApplication::activePopupWidget()) {
+        // the popup's own keys: rows, choice, Escape closes it
+        sendKey(popup->focusWidget() != nullptr ? popup->focusWidget() : popup, key);
+        return true;
+    }
+    QWidget* focus = poller->window()->focusWidget();
+    if (enteredList != nullptr && enteredList != focus)
+        enteredList = nullptr; // a touch took the focus elsewhere
+    if (QAbstractItemView* list = qobject_cast<QAbstractItemView*>(focus)) {
+        if (list == enteredList)
+            return walkList(list, key);
+        return key == Qt::Key_Return && enterList(list);
+    }
+    // a button with a menu opens it, to be walked as a popup
+    QPushButton* menuButton = qobject_cast<QPushButton*>(focus);
+    if (key == Qt::Key_Return && menuButton != nullptr && menuButton->menu() != nullptr &&
+        menuButton->isEnabled()) {
+        QMenu* menu = menuButton->menu();
+        for (QAction* action : menu->actions())
+            if (action->isVisible() && action->isEnabled() && !action->isSeparator()) {
+                menu->popup(menuButton->mapToGlobal(QPoint(0, menuButton->height())), action);
+                menu->setActiveAction(action);
+                return true;
+            }
+        return false;
+    }
+    if (QComboBox* combo = qobject_cast<QComboBox*>(focus)) {
+        if (key != Qt::Key_Return || combo->count() == 0)
+            return false;
+        combo->showPopup();
+        return true;
+    }
+    if (!plainWalk || key != Qt::Key_Return)
+        return false;
+    if (qobject_cast<QLineEdit*>(focus) != nullptr) {
+        touchAt(focus, focus->rect().center());
+        return true;
+    }
+    // the focused button; with none the dialog presses its default one
+    QAbstractButton* button = qobject_cast<QAbstractButton*>(focus);
+    if (button == nullptr || !button->isEnabled())
+        return false;
+    button->click();
+    return true;
+}
+
+bool KeyFront::eventFilter(QObject* obj, QEvent* event)
+{
+    if (event->type() == QEvent::Show) {
+        QDialog* dialog = qobject_cast<QDialog*>(obj);
+        if (dialog != nullptr && dialog->isWindow() &&
+            dialog->findChild<GpioKeyboard*>() == nullptr)
+            new GpioKeyboard(dialog, true);
+    }
+    return QObject::eventFilter(obj, event);
+}

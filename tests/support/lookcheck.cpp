@@ -1,0 +1,288 @@
+#include "support/lookcheck.h"
+
+#include "support/siminstrument.h"
+#include "toolkit/plotter.h"
+#include "toolkit/textfit.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QFontMetrics>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <QTest>
+#include <QTextDocument>
+#include <QTime>
+#include <QToolButton>
+#include <cmath>
+
+namespace
+{
+
+double luminance(const QColor& c)
+{
+    auto channel = [](double v) {
+        v /= 255.0;
+        return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * channel(c.red()) + 0.7152 * channel(c.green()) + 0.0722 * channel(c.blue());
+}
+
+QString nameOf(const QWidget* w)
+{
+    QString name = w->metaObject()->className();
+    if (!w->objectName().isEmpty())
+        name += " \"" + w->objectName() + "\"";
+    return name;
+}
+
+// The text as drawn: "&&" is one ampersand, a single one marks the shortcut.
+QString shownText(QString text)
+{
+    text.replace("&&", QString(QChar(0x1)));
+    text.remove('&');
+    text.replace(QChar(0x1), '&');
+    return text;
+}
+
+int textWidth(const QFontMetrics& metrics, const QString& text)
+{
+    int widest = 0;
+    for (const QString& line : text.split('\n'))
+        widest = std::max(widest, metrics.horizontalAdvance(line));
+    return widest;
+}
+
+void checkLabel(QLabel* label, QStringList* faults)
+{
+    if (label->text().isEmpty() || label->objectName() == "qt_msgboxex_icon_label")
+        return;
+    const QRect box = label->contentsRect().marginsRemoved(
+        QMargins(label->margin(), label->margin(), label->margin(), label->margin()));
+    const int indent = label->indent() > 0 ? label->indent() : 0;
+    if (label->wordWrap()) {
+        const int need = label->heightForWidth(label->width());
+        if (need > label->height())
+            *faults << QString("%1 \"%2\": wrapped text needs %3 px, has %4 px")
+                           .arg(nameOf(label), label->text())
+                           .arg(need)
+                           .arg(label->height());
+        return;
+    }
+    int need;
+    if (Qt::mightBeRichText(label->text())) {
+        QTextDocument document;
+        document.setDefaultFont(label->font());
+        document.setHtml(label->text());
+        document.setDocumentMargin(0);
+        need = std::ceil(document.idealWidth());
+    } else {
+        need = textWidth(label->fontMetrics(), label->text());
+    }
+    if (need > box.width() - indent)
+        *faults << QString("%1 \"%2\": text %3 px wide, box %4 px")
+                       .arg(nameOf(label), label->text())
+                       .arg(need)
+                       .arg(box.width() - indent);
+}
+
+void checkButton(QAbstractButton* button, QStringList* faults)
+{
+    const QString text = shownText(button->text());
+    const QToolButton* tool = qobject_cast<QToolButton*>(button);
+    if (text.isEmpty() ||
+        (tool && tool->toolButtonStyle() == Qt::ToolButtonIconOnly && !tool->icon().isNull()))
+        return;
+    QStyleOptionButton option;
+    option.initFrom(button);
+    option.text = button->text();
+    option.icon = button->icon();
+    option.iconSize = button->iconSize();
+    QRect box;
+    if (qobject_cast<QCheckBox*>(button))
+        box = button->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, button);
+    else if (qobject_cast<QRadioButton*>(button))
+        box = button->style()->subElementRect(QStyle::SE_RadioButtonContents, &option, button);
+    else if (qobject_cast<QPushButton*>(button))
+        box = button->style()->subElementRect(QStyle::SE_PushButtonContents, &option, button);
+    else
+        box = button->contentsRect().adjusted(2, 2, -2, -2);
+    int need = textWidth(button->fontMetrics(), text);
+    const bool iconBeside = !button->icon().isNull() &&
+                            (!tool || tool->toolButtonStyle() == Qt::ToolButtonTextBesideIcon);
+    if (iconBeside)
+        need += button->iconSize().width() + 4;
+    if (need > box.width())
+        *faults << QString("%1 \"%2\": text %3 px wide, box %4 px")
+                       .arg(nameOf(button), text)
+                       .arg(need)
+                       .arg(box.width());
+}
+
+void checkItems(QAbstractItemView* view, QStringList* faults)
+{
+    const QAbstractItemModel* model = view->model();
+    if (!model)
+        return;
+    const int margin = view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, view) + 1;
+    for (int row = 0; row < model->rowCount(); ++row) {
+        for (int column = 0; column < model->columnCount(); ++column) {
+            const QModelIndex index = model->index(row, column);
+            const QString text = model->data(index, Qt::DisplayRole).toString();
+            // a text in tab-separated cells is drawn by its own columns
+            if (text.isEmpty() || text.contains('\t'))
+                continue;
+            QFont font = view->font();
+            const QVariant itemFont = model->data(index, Qt::FontRole);
+            if (itemFont.isValid())
+                font = itemFont.value<QFont>();
+            if (fontPixels(font) < MinTextPixels)
+                *faults << QString("%1 row %2: font of %3 px")
+                               .arg(nameOf(view))
+                               .arg(row)
+                               .arg(fontPixels(font));
+            int need = textWidth(QFontMetrics(font), text) + 2 * margin;
+            if (!model->data(index, Qt::DecorationRole).isNull())
+                need += view->iconSize().width() + margin;
+            const QRect cell = view->visualRect(index);
+            const int room = std::min(cell.width() > 0 ? cell.width() : view->viewport()->width(),
+                                      view->viewport()->width());
+            if (need > room)
+                *faults << QString("%1 item \"%2\": text %3 px wide, room %4 px")
+                               .arg(nameOf(view), text)
+                               .arg(need)
+                               .arg(room);
+        }
+    }
+}
+
+} // namespace
+
+double contrastRatio(const QColor& a, const QColor& b)
+{
+    const double la = luminance(a);
+    const double lb = luminance(b);
+    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+QStringList legibilityFaults(QWidget* screen)
+{
+    QStringList faults;
+    QList<QWidget*> widgets = screen->findChildren<QWidget*>();
+    widgets.prepend(screen);
+    for (QWidget* w : widgets) {
+        if (w != screen && !w->isVisibleTo(screen))
+            continue;
+        if (!w->isVisible())
+            continue;
+        QLabel* label = qobject_cast<QLabel*>(w);
+        QAbstractButton* button = qobject_cast<QAbstractButton*>(w);
+        QAbstractItemView* view = qobject_cast<QAbstractItemView*>(w);
+        // a table's header shares the table's model but shows its headers
+        if (qobject_cast<QHeaderView*>(w))
+            view = nullptr;
+        const bool showsText = (label && !label->text().isEmpty()) ||
+                               (button && !button->text().isEmpty()) || view ||
+                               w->inherits("QLineEdit") || w->inherits("QComboBox");
+        if (showsText && fontPixels(w->font()) < MinTextPixels)
+            faults << QString("%1: font of %2 px").arg(nameOf(w)).arg(fontPixels(w->font()));
+        if (label)
+            checkLabel(label, &faults);
+        else if (button)
+            checkButton(button, &faults);
+        else if (view)
+            checkItems(view, &faults);
+        if (const Plotter* plotter = qobject_cast<const Plotter*>(w)) {
+            for (const QFont& font : plotter->drawnTextFonts())
+                if (fontPixels(font) < MinTextPixels)
+                    faults << QString("%1: painter font of %2 px")
+                                  .arg(nameOf(w))
+                                  .arg(fontPixels(font));
+        }
+    }
+    return faults;
+}
+
+QImage grabScreen(QWidget* screen)
+{
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+    // through its window, so that a widget's picture holds what shines
+    // through it
+    QWidget* window = screen->window();
+    return window->grab(QRect(screen->mapTo(window, QPoint(0, 0)), screen->size()))
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
+}
+
+QStringList focusMarkFaultsByKey(QWidget* screen, const SimInstrument& sim, QWidget* a,
+                                 const char* key)
+{
+    QStringList faults;
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        a->setFocus();
+        if (!QTest::qWaitFor([a] { return a->hasFocus(); }, 2000))
+            return {"the focus does not come to the first widget"};
+        const int minute = QTime::currentTime().minute();
+        const QImage before = grabScreen(screen);
+        // held until the key poll has moved the focus, let go before the
+        // next poll sees it again
+        if (!sim.pressKey(key))
+            return {"the key cannot be pressed"};
+        const bool moved = QTest::qWaitFor([a] { return !a->hasFocus(); }, 2000);
+        sim.releaseKey(key);
+        QWidget* b = QApplication::focusWidget();
+        if (!moved || b == nullptr)
+            return {QString("the key %1 moves no focus").arg(key)};
+        const QImage after = grabScreen(screen);
+        if (QTime::currentTime().minute() != minute && attempt == 0)
+            continue;
+        faults = focusMarkFaults(screen, before, after, a, b);
+        faults += focusMarkFaults(screen, after, before, b, a);
+        break;
+    }
+    return faults;
+}
+
+QStringList focusMarkFaults(QWidget* screen, const QImage& before, const QImage& after, QWidget* a,
+                            QWidget* b)
+{
+    QStringList faults;
+    if (before.size() != after.size())
+        return {"the two grabs differ in size"};
+    const QRect rectA(a->mapTo(screen, QPoint(0, 0)), a->size());
+    const QRect rectB(b->mapTo(screen, QPoint(0, 0)), b->size());
+    int strongInA = 0;
+    int outside = 0;
+    QPoint firstOutside;
+    for (int y = 0; y < before.height(); ++y) {
+        for (int x = 0; x < before.width(); ++x) {
+            const QRgb p = before.pixel(x, y);
+            const QRgb q = after.pixel(x, y);
+            if (p == q)
+                continue;
+            const QPoint at(x, y);
+            if (rectA.contains(at)) {
+                if (contrastRatio(QColor(p), QColor(q)) >= 3.0)
+                    ++strongInA;
+            } else if (!rectB.contains(at)) {
+                if (outside++ == 0)
+                    firstOutside = at;
+            }
+        }
+    }
+    if (strongInA < 20)
+        faults << QString("only %1 pixels of %2 change by 3:1").arg(strongInA).arg(nameOf(a));
+    if (outside > 0)
+        faults << QString("%1 pixels outside both widgets change, the first at (%2, %3)")
+                      .arg(outside)
+                      .arg(firstOutside.x())
+                      .arg(firstOutside.y());
+    return faults;
+}

@@ -1,0 +1,42 @@
+#ifndef KRM_TESTS_LOOKCHECK_H
+#define KRM_TESTS_LOOKCHECK_H
+
+#include <QColor>
+#include <QImage>
+#include <QStringList>
+
+class QWidget;
+class SimInstrument;
+
+// Checks of what an operator in the sun sees on a screen.
+
+// The contrast ratio of two colours (1 to 21): the lighter one's relative
+// luminance plus 0.05 over the darker one's plus 0.05.
+double contrastRatio(const QColor& a, const QColor& b);
+
+// Walks every visible widget of the screen (a shown widget, laid out) and
+// every font the plotter's painter drew a text in, and names each fault: a
+// font below 11 pixels; a label, button or list item whose text is wider
+// than its contents rectangle (a wrapped label: taller). Empty when the
+// screen is legible.
+QStringList legibilityFaults(QWidget* screen);
+
+// The screen grabbed with the focus on widget A (`before`), then on widget B
+// (`after`): names what is wrong with the focus mark. At least 20 pixels
+// inside A must change, each by a contrast ratio of at least 3:1, and no
+// pixel outside A and B may change.
+QStringList focusMarkFaults(QWidget* screen, const QImage& before, const QImage& after, QWidget* a,
+                            QWidget* b);
+
+// The focus on widget A, then moved by one press of a hardware key of the
+// simulated instrument: focusMarkFaults of the screen grabbed before and
+// after, both ways (A to the widget the key reached, and back). When the
+// status bar's clock turns between the two grabs, it tries once more.
+QStringList focusMarkFaultsByKey(QWidget* screen, const SimInstrument& sim, QWidget* a,
+                                 const char* key);
+
+// The screen (or any widget) as it is now on its window, its pending events
+// served first.
+QImage grabScreen(QWidget* screen);
+
+#endif
