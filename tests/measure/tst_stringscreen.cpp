@@ -99,6 +99,27 @@ private slots:
         QCOMPARE(screen._referenceModelName, QString("SIM 250"));
         QVERIFY(screen._referenceChosen);
     }
+    // A model written by an older instrument names itself in Latin-1; the old
+    // screen turned its bytes into text in the process's 8-bit encoding and
+    // showed a broken or empty name on a UTF-8 system.
+    void textsSpeakUtf8_aLatin1ModelNameStandsWholeInTheTitle()
+    {
+        TestRoot root(0.01);
+        configure(root);
+        QVERIFY(addModule("Simul", "simul", "y", "kraft", simulatedSheet()));
+        QByteArray model = root.read("/krm510data/datapanel/simul/kraft");
+        model.replace("name = y\n", "name = Kr\xe4"
+                                    "ft 250\n");
+        QVERIFY(root.write("/krm510data/datapanel/simul/kraft", model));
+        ModalDriver driver;
+        expectReference(driver, QString::fromUtf8("Kräft 250"));
+        StringIV screen(nullptr);
+        screen.show();
+        touch(&screen, "Confronto");
+        QCOMPARE(driver.pending(), 0);
+        QCOMPARE(screen.plotter()->title(), QString::fromUtf8("String IV / 2 * Kräft 250"));
+        QCOMPARE(screen._referenceModelName, QString::fromUtf8("Kräft 250"));
+    }
     void countIsAskedAtEveryStartAndKeptForTheLifeOfTheScreen()
     {
         TestRoot root(0.01);
