@@ -19,6 +19,8 @@ public:
 
     // The text a value shows: two decimals, or "----" for a value without one.
     static QString valueText(float value, int decimals);
+    // Module or string: kept, and not shown on the page.
+    _meaType type() const { return _type; }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

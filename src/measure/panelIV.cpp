@@ -19,9 +19,11 @@
 #include "measure/dialoginfo.h"
 #include "measure/dialogshutdown.h"
 #include "measure/refpanel.h"
+#include "measure/testscreen.h"
 #include "platform/clock.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
+#include "toolkit/numbertext.h"
 #include "toolkit/plotter.h"
 
 #include <QAction>
@@ -40,46 +42,14 @@
 #include <cstring>
 #include <limits>
 
-namespace {
+namespace
+{
 
 const float noValue = std::numeric_limits<float>::quiet_NaN();
 // The probe value of the automatic temperature mode, and what a temperature
 // out of limits is reset to.
 const float autoTemperature = -20.0f;
 const int boardOverheated = 65; // degrees C of the heat sink
-
-const char* const blueProgressStyle =
-    "QProgressBar:horizontal {border: 1px solid gray;border-radius: 3px;background: "
-    "white;padding: 1px;text-align: center;}QProgressBar::chunk:horizontal {background: "
-    "qlineargradient(x1: 0, y1: 0.5, x2: 1, y2: 0.5, stop: 0 blue, stop: 1 white);}";
-
-const Qt::WindowFlags boxFlags = Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint;
-
-const char* const batteryPicture[] = {
-    ":/icon/vbattery-full.png", ":/icon/vbattery-75.png",    ":/icon/vbattery-50.png",
-    ":/icon/vbattery-25.png",   ":/icon/vbattery-15.png",    ":/icon/vbattery-alert.png",
-    ":/icon/vbattery-empty.png"};
-
-QPushButton* barButton(const QString& text, const char* name, bool flat)
-{
-    QPushButton* button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setFlat(flat);
-    button->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum);
-    return button;
-}
-
-void copyName(char* target, const char* source)
-{
-    std::memset(target, 0, TEXT_COPY_SIZE);
-    if (source != nullptr)
-        std::strncpy(target, source, TEXT_COPY_SIZE - 1);
-}
-
-void showConversion(void* context, int k)
-{
-    static_cast<QProgressDialog*>(context)->setValue(k);
-}
 
 } // namespace
 
@@ -210,7 +180,7 @@ void PanelIV::measurePanel()
     } running{&_measureRunning};
 
     QMessageBox box(this);
-    QProgressDialog progress(tr("Misura Modulo..."), QString(), 0, 512, this, boxFlags);
+    QProgressDialog progress(tr("Misura Modulo..."), QString(), 0, 512, this, messageBoxFlags);
     // Qt 6 starts a timer in the constructor that shows the dialog after its
     // minimum duration, even with no setValue at all: a refused start would
     // show it over the refusal's box. The old toolkit showed a progress
@@ -218,7 +188,7 @@ void PanelIV::measurePanel()
     // reset() stops that timer and leaves those two ways.
     progress.reset();
     progress.setObjectName("MeasureProgress");
-    progress.setStyleSheet(blueProgressStyle);
+    progress.setStyleSheet(progressStyle("blue"));
 
     _temperatureProbe = noValue;
     _irradianceProbe = noValue;
@@ -279,8 +249,8 @@ void PanelIV::measurePanel()
 
     measuredEndPoints(&_infoLast, &_config, &_isc, &_voc);
     _pmax = 0;
-    convertRamp(&_rawRamp, &_config, &_rampExact, &_ramp, &_pmax, &_vmpp, &_impp,
-                showConversion, &progress);
+    convertRamp(&_rawRamp, &_config, &_rampExact, &_ramp, &_pmax, &_vmpp, &_impp, showConversion,
+                &progress);
 
     _buttonStart->setChecked(false);
     _measureDone = true;
@@ -304,7 +274,7 @@ void PanelIV::measurePanel()
 void PanelIV::failMeasure(QMessageBox* box, _pdError error)
 {
     _buttonStart->setChecked(false);
-    box->setWindowFlags(boxFlags);
+    box->setWindowFlags(messageBoxFlags);
     box->setIcon(QMessageBox::Warning);
     box->setWindowTitle(tr("Power Device"));
     box->setStandardButtons(QMessageBox::Ok);
@@ -368,11 +338,12 @@ void PanelIV::failMeasure(QMessageBox* box, _pdError error)
 
 int PanelIV::getProbeVar(bool showProgress)
 {
-    QProgressDialog progress(tr("Acquisizione Misure Ambiente"), QString(), 0, 10, this, boxFlags);
+    QProgressDialog progress(tr("Acquisizione Misure Ambiente"), QString(), 0, 10, this,
+                             messageBoxFlags);
     progress.reset(); // stops the show timer of the constructor (see measurePanel)
     progress.setObjectName("EnvironmentProgress");
     if (showProgress) {
-        progress.setStyleSheet(blueProgressStyle);
+        progress.setStyleSheet(progressStyle("blue"));
         progress.setMinimumDuration(0);
     }
     QMessageBox box(this);
@@ -401,7 +372,7 @@ int PanelIV::getProbeVar(bool showProgress)
         }
         RemoteUnit* unit = new RemoteUnit(_config.remote, 10.54f);
         bool connected = false;
-        for (int failures = 0; failures < 4 && !connected; ) {
+        for (int failures = 0; failures < 4 && !connected;) {
             connected = unit->connect() != 0;
             if (!connected) {
                 unit->disconnect();
@@ -431,7 +402,7 @@ int PanelIV::getProbeVar(bool showProgress)
         delete unit;
     }
 
-    box.setWindowFlags(boxFlags);
+    box.setWindowFlags(messageBoxFlags);
     box.setIcon(QMessageBox::Warning);
     box.setStandardButtons(QMessageBox::Ok);
     box.setDefaultButton(QMessageBox::Ok);
@@ -443,8 +414,8 @@ int PanelIV::getProbeVar(bool showProgress)
         box.setText(tr("Irradiazione non rilevata."));
     } else if (showProgress && _irradianceProbe < _config.irrmin) {
         box.setWindowTitle(QString());
-        box.setText(tr("Irraggiamento insufficiente (< ") +
-                    QString::number(static_cast<double>(_config.irrmin), 'f', 2) + " W/m²)");
+        box.setText(tr("Irraggiamento insufficiente (< ") + storedNumberText(_config.irrmin, 2) +
+                    " W/m²)");
     } else {
         return 0;
     }
@@ -456,41 +427,8 @@ int PanelIV::getProbeVar(bool showProgress)
 void PanelIV::readProbes(int rounds, int first, bool showProgress, QProgressDialog* progress,
                          RemoteUnit* unit)
 {
-    for (int round = first; round < first + rounds; round++) {
-        char ok = 0;
-        float temperature = noValue;
-        switch (_config.tprobe) {
-        case PROBE_AUTO:
-            temperature = autoTemperature;
-            ok = 1;
-            break;
-        case PROBE_MANUAL:
-            temperature = _config.utemp;
-            ok = 1;
-            break;
-        case PROBE_MODULE:
-            temperature = unit != nullptr ? unit->getTempModulo(&ok)
-                                          : temperatureAcquire(&ok, _config.tmmod, _config.tomod);
-            break;
-        default:
-            temperature = unit != nullptr ? unit->getTempAmbiente(&ok)
-                                          : temperatureAcquire(&ok, _config.tmenv, _config.toenv);
-            break;
-        }
-        if (ok) {
-            _temperatureProbe = temperature;
-            _temperatureValid = true;
-        }
-        float irradiance = unit != nullptr ? unit->getPirano(&ok) : irradiationAcquire(&ok);
-        if (ok) {
-            _irradianceProbe = irradiance;
-            _irradianceValid = true;
-        }
-        if (unit == nullptr) // the remote unit's own exchange takes its time
-            Clock::usleep(500);
-        if (showProgress)
-            progress->setValue(round);
-    }
+    readProbeRounds(&_config, rounds, first, showProgress ? progress : nullptr, unit,
+                    &_temperatureProbe, &_temperatureValid, &_irradianceProbe, &_irradianceValid);
 }
 
 bool PanelIV::getControlIrr(float before, float after)
@@ -512,13 +450,9 @@ void PanelIV::drawCurve(int id, const _ramp_iv* axes, const _ramp_iv* curve)
     float vmax = 0;
     float imax = 0;
     curveMaxima(axes, &vmax, &imax);
-    QVector<QPointF> points;
-    points.reserve(RAMP_POINTS);
-    for (int k = 0; k < RAMP_POINTS; k++)
-        points.append(QPointF(curve->tensione[k], curve->corrente[k]));
     _plotter->setAxisX(0, panelVScale(vmax));
     _plotter->setAxisY(0, panelIScale(imax));
-    _plotter->setCurveData(id, points);
+    _plotter->setCurveData(id, curvePoints(curve));
 }
 
 void PanelIV::checkPanelOk()
@@ -606,14 +540,8 @@ void PanelIV::togglePowerCurve(bool stc)
         return;
     }
     const _ramp_iv* source = stc ? &_rampStcSmooth : &_rampSmooth;
-    float y[RAMP_POINTS];
-    powerCurve(source, y);
-    QVector<QPointF> points;
-    points.reserve(RAMP_POINTS);
-    for (int k = 0; k < RAMP_POINTS; k++)
-        points.append(QPointF(source->tensione[k], y[k]));
     _plotter->pmaxLabel = stc ? _pmaxStc : _pmax;
-    _plotter->setCurveData(2, points);
+    _plotter->setCurveData(2, powerPoints(source));
     own = true;
     other = false;
 }
@@ -661,8 +589,8 @@ void PanelIV::goToPanelMea()
 
 void PanelIV::goToSavePanelAcquired()
 {
-    QMessageBox* box = newMessageBox(this, QMessageBox::Information, QString(),
-                                     tr("Misura Salvata."));
+    QMessageBox* box =
+        newMessageBox(this, QMessageBox::Information, QString(), tr("Misura Salvata."));
     DialogInfo* dialog = new DialogInfo(this, DLG_PANEL, _comment);
     if (dialog->exec() != QDialog::Accepted) {
         delete dialog;
@@ -739,13 +667,10 @@ void PanelIV::displayClock()
 
 void PanelIV::displayPowerSupply()
 {
-    if (isPowerSupply()) {
-        _labelSupply->setPixmap(QPixmap(":/icon/vac-adapter.png"));
-        return;
-    }
-    const int level = batteryLevel();
-    if (level >= 0 && level <= 6) {
-        _labelSupply->setPixmap(QPixmap(batteryPicture[level]));
+    const bool adapter = isPowerSupply();
+    const char* picture = supplyPicture(adapter, adapter ? 0 : batteryLevel());
+    if (picture != nullptr) {
+        _labelSupply->setPixmap(QPixmap(picture));
         return;
     }
     // The timer goes on inside the dialog's loop, and the main menu's status
@@ -801,28 +726,9 @@ void PanelIV::keyPressEvent(QKeyEvent* event)
             goToSavePanelAcquired();
         break;
     case Qt::Key_Down:
-        if (focused(_buttonStart))
-            _buttonReference->setFocus();
-        else if (focused(_buttonReference))
-            _buttonMeasures->setFocus();
-        else if (focused(_buttonMeasures))
-            (_buttonSave->isEnabled() ? _buttonSave : _buttonExit)->setFocus();
-        else if (focused(_buttonSave))
-            _buttonExit->setFocus();
-        else if (focused(_buttonExit))
-            _buttonStart->setFocus();
-        break;
     case Qt::Key_Up:
-        if (focused(_buttonStart))
-            _buttonExit->setFocus();
-        else if (focused(_buttonExit))
-            (_buttonSave->isEnabled() ? _buttonSave : _buttonMeasures)->setFocus();
-        else if (focused(_buttonSave))
-            _buttonMeasures->setFocus();
-        else if (focused(_buttonMeasures))
-            _buttonReference->setFocus();
-        else if (focused(_buttonReference))
-            _buttonStart->setFocus();
+        walkBar(event->key(), focusWidget(), _buttonStart, _buttonReference, _buttonMeasures,
+                _buttonSave, _buttonExit);
         break;
     default:
         break;

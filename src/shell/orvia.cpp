@@ -9,6 +9,7 @@
 #include "device/rfcomm.h"
 #include "measure/dialogcollegamenti.h"
 #include "measure/panelIV.h"
+#include "measure/stringIV.h"
 #include "platform/clock.h"
 #include "platform/command.h"
 #include "shell/language.h"
@@ -92,6 +93,7 @@ Orvia::Orvia()
 
     connect(_buttonSystem, &QPushButton::clicked, this, &Orvia::goToSystemDialog);
     connect(_buttonPanel, &QPushButton::clicked, this, &Orvia::goToPanelIV);
+    connect(_buttonString, &QPushButton::clicked, this, &Orvia::goToStringIV);
     connect(_buttonArchivePanel, &QPushButton::clicked, this, &Orvia::goToArchivePanel);
     showMaximized();
 }
@@ -172,6 +174,20 @@ void Orvia::goToPanelIV()
     delete panel;
 }
 
+// The string's wiring picture first; the string test opens only after
+// "Continua".
+void Orvia::goToStringIV()
+{
+    DialogCollegamenti* wiring = new DialogCollegamenti(this, MEA_STRING);
+    const bool accepted = wiring->exec() == QDialog::Accepted;
+    delete wiring;
+    if (!accepted)
+        return;
+    StringIV* screen = new StringIV(this);
+    screen->exec();
+    delete screen;
+}
+
 void Orvia::goToArchivePanel()
 {
     ArchivePanel* screen = new ArchivePanel(this);
@@ -196,6 +212,8 @@ void Orvia::keyPressEvent(QKeyEvent* event)
             goToSystemDialog();
         if (_buttonPanel->hasFocus())
             goToPanelIV();
+        if (_buttonString->hasFocus())
+            goToStringIV();
         if (_buttonArchivePanel->hasFocus())
             goToArchivePanel();
         break;

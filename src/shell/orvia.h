@@ -30,6 +30,7 @@ public:
 public slots:
     void goToSystemDialog();
     void goToPanelIV();
+    void goToStringIV();
     void goToArchivePanel();
     void goToBraskDebug();
 

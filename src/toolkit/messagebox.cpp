@@ -1,10 +1,12 @@
 #include "toolkit/messagebox.h"
 
+const Qt::WindowFlags messageBoxFlags = Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint;
+
 QMessageBox* newMessageBox(QWidget* parent, QMessageBox::Icon icon, const QString& title,
                            const QString& text)
 {
     QMessageBox* box = new QMessageBox(parent);
-    box->setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
+    box->setWindowFlags(messageBoxFlags);
     box->setIcon(icon);
     box->setWindowTitle(title);
     box->setText(text);

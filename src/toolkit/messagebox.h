@@ -6,6 +6,10 @@
 // Every message of the instrument is a modal box with a title bar without
 // buttons and one Ok button that is also the default: a warning icon for
 // measuring problems, critical for lost links, information for refused input.
+// The flags of the instrument's boxes and progress dialogs: a title bar
+// without buttons.
+extern const Qt::WindowFlags messageBoxFlags;
+
 QMessageBox* newMessageBox(QWidget* parent, QMessageBox::Icon icon, const QString& title,
                            const QString& text);
 

@@ -12,7 +12,7 @@
 <context>
     <name>DialogDatiElettrici</name>
     <message>
-        <location filename="../../../measure/dialogdatielettrici.cpp" line="+20"/>
+        <location filename="../../../measure/dialogdatielettrici.cpp" line="+21"/>
         <source>Dati Elettrici Misurati</source>
         <translation>Gemessene elektrische Daten</translation>
     </message>
@@ -25,7 +25,7 @@
 <context>
     <name>DialogDegrado</name>
     <message>
-        <location filename="../../../measure/dialogdegrado.cpp" line="+20"/>
+        <location filename="../../../measure/dialogdegrado.cpp" line="+21"/>
         <source>Degrado Modulo</source>
         <translation>Moduldegradation</translation>
     </message>
@@ -75,7 +75,7 @@
         <translation>Moduldegradation : Degradation %</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+10"/>
         <source>Degrado Anni</source>
         <translation>Degradation Jahre</translation>
     </message>
@@ -94,7 +94,7 @@
 <context>
     <name>DialogInfo</name>
     <message>
-        <location filename="../../../measure/dialoginfo.cpp" line="+28"/>
+        <location filename="../../../measure/dialoginfo.cpp" line="+31"/>
         <source>Salvataggio Misure Stringhe</source>
         <translation>Stringmessungen speichern</translation>
     </message>
@@ -190,7 +190,7 @@
 <context>
     <name>DialogShutDown</name>
     <message>
-        <location filename="../../../measure/dialogshutdown.cpp" line="+16"/>
+        <location filename="../../../measure/dialogshutdown.cpp" line="+36"/>
         <source>Batteria</source>
         <translation>Akku</translation>
     </message>
@@ -208,7 +208,7 @@
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+97"/>
+        <location filename="../../../measure/panelIV.cpp" line="+69"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -258,12 +258,12 @@
         <translation>Leistung</translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+54"/>
         <source>Misura Modulo...</source>
         <translation>Modulmessung...</translation>
     </message>
     <message>
-        <location line="+49"/>
+        <location line="+61"/>
         <source>Generazione Grafico...</source>
         <translation>Grafik wird erstellt...</translation>
     </message>
@@ -322,7 +322,7 @@ Gerät überhitzt.
 Vor weiteren Tests bitte warten.</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+8"/>
         <source>Eseguito ripristino modulo potenza.</source>
         <translation>Wiederherstellung des Power Device.</translation>
     </message>
@@ -333,7 +333,7 @@ Vor weiteren Tests bitte warten.</translation>
     </message>
     <message>
         <location line="+22"/>
-        <location line="+48"/>
+        <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Umgebungsmessung</translation>
     </message>
@@ -379,7 +379,7 @@ Vor weiteren Tests bitte warten.</translation>
         <translation>Einstrahlung zu niedrig (&lt; </translation>
     </message>
     <message>
-        <location line="+53"/>
+        <location line="+20"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Einstrahlung sehr variabel</translation>
     </message>
@@ -391,12 +391,12 @@ Ripetere.</source>
 Bitte wiederholen.</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+35"/>
         <source>Temperatura fuori limite.</source>
         <translation>Temperatur von Grenzen.</translation>
     </message>
     <message>
-        <location line="+126"/>
+        <location line="+120"/>
         <source>Misura Salvata.</source>
         <translation>Messung gespeichert.</translation>
     </message>
@@ -414,7 +414,7 @@ Bitte wiederholen.</translation>
 <context>
     <name>ReferencePanel</name>
     <message>
-        <location filename="../../../measure/refpanel.cpp" line="+45"/>
+        <location filename="../../../measure/refpanel.cpp" line="+82"/>
         <source>Modulo di Riferimento</source>
         <translation>Referenzmodul</translation>
     </message>
@@ -458,6 +458,212 @@ Bitte wiederholen.</translation>
         <location line="+25"/>
         <source>Vuoto</source>
         <translation>Leer</translation>
+    </message>
+</context>
+<context>
+    <name>StringIV</name>
+    <message>
+        <location filename="../../../measure/stringIV.cpp" line="+70"/>
+        <source>String IV</source>
+        <translation>String IV</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Confronto</source>
+        <translation>Vergleichen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure</source>
+        <translation>Messungen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Salva</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Stringa</source>
+        <translation>String</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza OPC</source>
+        <translation>Leistung OPC</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza STC</source>
+        <translation>Leistung STC</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Potenza</source>
+        <translation>Leistung</translation>
+    </message>
+    <message>
+        <location line="+54"/>
+        <source>Misura Stringa...</source>
+        <translation>Stringmessung...</translation>
+    </message>
+    <message>
+        <location line="+61"/>
+        <source>Generazione Grafico...</source>
+        <translation>Grafik wird erstellt...</translation>
+    </message>
+    <message>
+        <location line="+55"/>
+        <source>Power Device</source>
+        <translation>Power Device</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Tensione Eccessiva.</source>
+        <translation>Spannung zu hoch.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente Eccessiva.</source>
+        <translation>Strom zu hoch.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Potenza Eccessiva.</source>
+        <translation>Leistung zu hoch.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Energia Eccessiva.</source>
+        <translation>Energie zu hoch.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Polarità Inversa.</source>
+        <translation>Polarität vertauscht.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Negativo Flottante.</source>
+        <translation>Potentialfrei.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Tensione troppo bassa.</source>
+        <translation>Spannung zu niedrig.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente troppo bassa.</source>
+        <translation>Strom zu niedrig.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Attendere raffreddamento...
+Strumento surriscaldato.
+Attendere prima di riprendere i test.</source>
+        <translation>Abkühlung abwarten...
+Gerät überhitzt.
+Vor weiteren Tests bitte warten.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Eseguito ripristino modulo potenza.</source>
+        <translation>Wiederherstellung des Power Device.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Problema di connessione al Power Device.</source>
+        <translation>Anschlussproblem an Power Device.</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <location line="+49"/>
+        <source>Acquisizione Misure Ambiente</source>
+        <translation>Umgebungsmessung</translation>
+    </message>
+    <message>
+        <location line="-23"/>
+        <source>Connessione Unità Remota</source>
+        <translation>Verbindung Fernmodul</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Verbindung wird aufgebaut...</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Unità Remota</source>
+        <translation>Ferneinheit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Non connessa o assente.</source>
+        <translation>Nicht verbunden oder nicht vorhanden.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <location line="+3"/>
+        <source>Misure Ambiente</source>
+        <translation>Umgebung</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Temperatura non rilevata.</source>
+        <translation>Temperatur nicht ermittelt.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Irradiazione non rilevata.</source>
+        <translation>Sonneneinstrahlung nicht ermittelt.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Irraggiamento insufficiente (&lt; </source>
+        <translation>Einstrahlung zu niedrig (&lt; </translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Delta Irraggiamento Elevato</source>
+        <translation>Einstrahlung sehr variabel</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Valori STC non disponibili.
+Ripetere.</source>
+        <translation>STC werte nicht verfügbar.
+Bitte wiederholen.</translation>
+    </message>
+    <message>
+        <location line="+35"/>
+        <source>Temperatura fuori limite.</source>
+        <translation>Temperatur von Grenzen.</translation>
+    </message>
+    <message>
+        <location line="+123"/>
+        <source>Misura Salvata.</source>
+        <translation>Messung gespeichert.</translation>
+    </message>
+    <message>
+        <location line="+55"/>
+        <source>Misura</source>
+        <translation>Messung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Nome della misura già presente.</source>
+        <translation>Dieser Messungsname ist bereits vorhanden.</translation>
     </message>
 </context>
 </TS>

@@ -12,7 +12,7 @@
 <context>
     <name>DialogDatiElettrici</name>
     <message>
-        <location filename="../../../measure/dialogdatielettrici.cpp" line="+20"/>
+        <location filename="../../../measure/dialogdatielettrici.cpp" line="+21"/>
         <source>Dati Elettrici Misurati</source>
         <translation>Measured electrical data</translation>
     </message>
@@ -25,7 +25,7 @@
 <context>
     <name>DialogDegrado</name>
     <message>
-        <location filename="../../../measure/dialogdegrado.cpp" line="+20"/>
+        <location filename="../../../measure/dialogdegrado.cpp" line="+21"/>
         <source>Degrado Modulo</source>
         <translation>Module degradation</translation>
     </message>
@@ -75,7 +75,7 @@
         <translation>Module degradation : Degradation %</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+10"/>
         <source>Degrado Anni</source>
         <translation>Degradation years</translation>
     </message>
@@ -94,7 +94,7 @@
 <context>
     <name>DialogInfo</name>
     <message>
-        <location filename="../../../measure/dialoginfo.cpp" line="+28"/>
+        <location filename="../../../measure/dialoginfo.cpp" line="+31"/>
         <source>Salvataggio Misure Stringhe</source>
         <translation>Save string measures</translation>
     </message>
@@ -190,7 +190,7 @@
 <context>
     <name>DialogShutDown</name>
     <message>
-        <location filename="../../../measure/dialogshutdown.cpp" line="+16"/>
+        <location filename="../../../measure/dialogshutdown.cpp" line="+36"/>
         <source>Batteria</source>
         <translation>Battery</translation>
     </message>
@@ -208,7 +208,7 @@
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+97"/>
+        <location filename="../../../measure/panelIV.cpp" line="+69"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -258,12 +258,12 @@
         <translation>Power</translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+54"/>
         <source>Misura Modulo...</source>
         <translation>Module measure...</translation>
     </message>
     <message>
-        <location line="+49"/>
+        <location line="+61"/>
         <source>Generazione Grafico...</source>
         <translation>Drawing the graph...</translation>
     </message>
@@ -322,7 +322,7 @@ Instrument overheated.
 Wait before resuming the tests.</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+8"/>
         <source>Eseguito ripristino modulo potenza.</source>
         <translation>Power module restore done.</translation>
     </message>
@@ -333,7 +333,7 @@ Wait before resuming the tests.</translation>
     </message>
     <message>
         <location line="+22"/>
-        <location line="+48"/>
+        <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Environment measures</translation>
     </message>
@@ -379,7 +379,7 @@ Wait before resuming the tests.</translation>
         <translation>Insufficient irradiance (&lt; </translation>
     </message>
     <message>
-        <location line="+53"/>
+        <location line="+20"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Highly variable solar radiation</translation>
     </message>
@@ -391,12 +391,12 @@ Ripetere.</source>
 Repeat.</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+35"/>
         <source>Temperatura fuori limite.</source>
         <translation>Outside temperature limit.</translation>
     </message>
     <message>
-        <location line="+126"/>
+        <location line="+120"/>
         <source>Misura Salvata.</source>
         <translation>Saved measure.</translation>
     </message>
@@ -414,7 +414,7 @@ Repeat.</translation>
 <context>
     <name>ReferencePanel</name>
     <message>
-        <location filename="../../../measure/refpanel.cpp" line="+45"/>
+        <location filename="../../../measure/refpanel.cpp" line="+82"/>
         <source>Modulo di Riferimento</source>
         <translation>Reference module</translation>
     </message>
@@ -458,6 +458,212 @@ Repeat.</translation>
         <location line="+25"/>
         <source>Vuoto</source>
         <translation>Empty</translation>
+    </message>
+</context>
+<context>
+    <name>StringIV</name>
+    <message>
+        <location filename="../../../measure/stringIV.cpp" line="+70"/>
+        <source>String IV</source>
+        <translation>String IV</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Confronto</source>
+        <translation>Comparison</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure</source>
+        <translation>Measured</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Salva</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Stringa</source>
+        <translation>String</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza OPC</source>
+        <translation>OPC power</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza STC</source>
+        <translation>STC power</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Potenza</source>
+        <translation>Power</translation>
+    </message>
+    <message>
+        <location line="+54"/>
+        <source>Misura Stringa...</source>
+        <translation>String measure...</translation>
+    </message>
+    <message>
+        <location line="+61"/>
+        <source>Generazione Grafico...</source>
+        <translation>Drawing the graph...</translation>
+    </message>
+    <message>
+        <location line="+55"/>
+        <source>Power Device</source>
+        <translation>Power Device</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Tensione Eccessiva.</source>
+        <translation>Excessive voltage value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente Eccessiva.</source>
+        <translation>Excessive current value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Potenza Eccessiva.</source>
+        <translation>Excessive power value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Energia Eccessiva.</source>
+        <translation>Excessive energy value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Polarità Inversa.</source>
+        <translation>Reverse polarity.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Negativo Flottante.</source>
+        <translation>Floating negative.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Tensione troppo bassa.</source>
+        <translation>Voltage too low.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente troppo bassa.</source>
+        <translation>Current too low.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Attendere raffreddamento...
+Strumento surriscaldato.
+Attendere prima di riprendere i test.</source>
+        <translation>Wait for cooling...
+Instrument overheated.
+Wait before resuming the tests.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Eseguito ripristino modulo potenza.</source>
+        <translation>Power module restore done.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Problema di connessione al Power Device.</source>
+        <translation>Problem of wiring to the power device.</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <location line="+49"/>
+        <source>Acquisizione Misure Ambiente</source>
+        <translation>Environment measures</translation>
+    </message>
+    <message>
+        <location line="-23"/>
+        <source>Connessione Unità Remota</source>
+        <translation>Remote unit connection</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Activating link...</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Unità Remota</source>
+        <translation>Remote Unit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Non connessa o assente.</source>
+        <translation>Not connected or missing.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <location line="+3"/>
+        <source>Misure Ambiente</source>
+        <translation>Environment</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Temperatura non rilevata.</source>
+        <translation>Temperature not detected.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Irradiazione non rilevata.</source>
+        <translation>Solar radiation value not detected.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Irraggiamento insufficiente (&lt; </source>
+        <translation>Insufficient irradiance (&lt; </translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Delta Irraggiamento Elevato</source>
+        <translation>Highly variable solar radiation</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Valori STC non disponibili.
+Ripetere.</source>
+        <translation>STC values are not available.
+Repeat.</translation>
+    </message>
+    <message>
+        <location line="+35"/>
+        <source>Temperatura fuori limite.</source>
+        <translation>Outside temperature limit.</translation>
+    </message>
+    <message>
+        <location line="+123"/>
+        <source>Misura Salvata.</source>
+        <translation>Saved measure.</translation>
+    </message>
+    <message>
+        <location line="+55"/>
+        <source>Misura</source>
+        <translation>Measure</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Nome della misura già presente.</source>
+        <translation>The measure name already exists.</translation>
     </message>
 </context>
 </TS>

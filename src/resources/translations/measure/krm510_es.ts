@@ -12,7 +12,7 @@
 <context>
     <name>DialogDatiElettrici</name>
     <message>
-        <location filename="../../../measure/dialogdatielettrici.cpp" line="+20"/>
+        <location filename="../../../measure/dialogdatielettrici.cpp" line="+21"/>
         <source>Dati Elettrici Misurati</source>
         <translation>Datos eléctricos medidos</translation>
     </message>
@@ -25,7 +25,7 @@
 <context>
     <name>DialogDegrado</name>
     <message>
-        <location filename="../../../measure/dialogdegrado.cpp" line="+20"/>
+        <location filename="../../../measure/dialogdegrado.cpp" line="+21"/>
         <source>Degrado Modulo</source>
         <translation>Degradación módulo</translation>
     </message>
@@ -75,7 +75,7 @@
         <translation>Degradación módulo : Degradación %</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+10"/>
         <source>Degrado Anni</source>
         <translation>Degradación años</translation>
     </message>
@@ -94,7 +94,7 @@
 <context>
     <name>DialogInfo</name>
     <message>
-        <location filename="../../../measure/dialoginfo.cpp" line="+28"/>
+        <location filename="../../../measure/dialoginfo.cpp" line="+31"/>
         <source>Salvataggio Misure Stringhe</source>
         <translation>Guardar medidas string</translation>
     </message>
@@ -190,7 +190,7 @@
 <context>
     <name>DialogShutDown</name>
     <message>
-        <location filename="../../../measure/dialogshutdown.cpp" line="+16"/>
+        <location filename="../../../measure/dialogshutdown.cpp" line="+36"/>
         <source>Batteria</source>
         <translation>Batería</translation>
     </message>
@@ -208,7 +208,7 @@
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+97"/>
+        <location filename="../../../measure/panelIV.cpp" line="+69"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -258,12 +258,12 @@
         <translation>Potencia</translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+54"/>
         <source>Misura Modulo...</source>
         <translation>Medida módulo...</translation>
     </message>
     <message>
-        <location line="+49"/>
+        <location line="+61"/>
         <source>Generazione Grafico...</source>
         <translation>Generación del gráfico...</translation>
     </message>
@@ -322,7 +322,7 @@ Instrumento sobrecalentado.
 Esperar antes de reanudar las pruebas.</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+8"/>
         <source>Eseguito ripristino modulo potenza.</source>
         <translation>Reanudada conexión al módulo de potencia.</translation>
     </message>
@@ -333,7 +333,7 @@ Esperar antes de reanudar las pruebas.</translation>
     </message>
     <message>
         <location line="+22"/>
-        <location line="+48"/>
+        <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Adquisición medidas ambientales</translation>
     </message>
@@ -379,7 +379,7 @@ Esperar antes de reanudar las pruebas.</translation>
         <translation>Irradiancia insuficiente (&lt; </translation>
     </message>
     <message>
-        <location line="+53"/>
+        <location line="+20"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Valor de la irradiancia inestable</translation>
     </message>
@@ -391,12 +391,12 @@ Ripetere.</source>
 Repita et test.</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+35"/>
         <source>Temperatura fuori limite.</source>
         <translation>Temperatura fuera límite.</translation>
     </message>
     <message>
-        <location line="+126"/>
+        <location line="+120"/>
         <source>Misura Salvata.</source>
         <translation>Medida guardada.</translation>
     </message>
@@ -414,7 +414,7 @@ Repita et test.</translation>
 <context>
     <name>ReferencePanel</name>
     <message>
-        <location filename="../../../measure/refpanel.cpp" line="+45"/>
+        <location filename="../../../measure/refpanel.cpp" line="+82"/>
         <source>Modulo di Riferimento</source>
         <translation>Módulo de referencia</translation>
     </message>
@@ -458,6 +458,212 @@ Repita et test.</translation>
         <location line="+25"/>
         <source>Vuoto</source>
         <translation>Vacío</translation>
+    </message>
+</context>
+<context>
+    <name>StringIV</name>
+    <message>
+        <location filename="../../../measure/stringIV.cpp" line="+70"/>
+        <source>String IV</source>
+        <translation>String IV</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Start</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Confronto</source>
+        <translation>Comparación</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure</source>
+        <translation>Medidas</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Salva</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Stringa</source>
+        <translation>String</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza OPC</source>
+        <translation>Potencia OPC</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza STC</source>
+        <translation>Potencia STC</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Potenza</source>
+        <translation>Potencia</translation>
+    </message>
+    <message>
+        <location line="+54"/>
+        <source>Misura Stringa...</source>
+        <translation>Medida string...</translation>
+    </message>
+    <message>
+        <location line="+61"/>
+        <source>Generazione Grafico...</source>
+        <translation>Generación del gráfico...</translation>
+    </message>
+    <message>
+        <location line="+55"/>
+        <source>Power Device</source>
+        <translation>Power Device</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Tensione Eccessiva.</source>
+        <translation>Valor de tensión excesivo.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente Eccessiva.</source>
+        <translation>Valor excesivo de corriente.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Potenza Eccessiva.</source>
+        <translation>Valor excesivo de potencia.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Energia Eccessiva.</source>
+        <translation>Valor excesivo de energía.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Polarità Inversa.</source>
+        <translation>Polaridad invertida.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Negativo Flottante.</source>
+        <translation>Negativo flotante.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Tensione troppo bassa.</source>
+        <translation>Tension demasiado baja.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente troppo bassa.</source>
+        <translation>Corriente demasiado baja.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Attendere raffreddamento...
+Strumento surriscaldato.
+Attendere prima di riprendere i test.</source>
+        <translation>Esperar el enfriamiento...
+Instrumento sobrecalentado.
+Esperar antes de reanudar las pruebas.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Eseguito ripristino modulo potenza.</source>
+        <translation>Reanudada conexión al módulo de potencia.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Problema di connessione al Power Device.</source>
+        <translation>Problema de conexión con el módulo de Potencia.</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <location line="+49"/>
+        <source>Acquisizione Misure Ambiente</source>
+        <translation>Adquisición medidas ambientales</translation>
+    </message>
+    <message>
+        <location line="-23"/>
+        <source>Connessione Unità Remota</source>
+        <translation>Conexión unidad remota</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Activando conexión...</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Unità Remota</source>
+        <translation>Unidad remota</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Non connessa o assente.</source>
+        <translation>No conectada o ausente.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <location line="+3"/>
+        <source>Misure Ambiente</source>
+        <translation>Medidas ambientales</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Temperatura non rilevata.</source>
+        <translation>Valor de temperatura no detectado.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Irradiazione non rilevata.</source>
+        <translation>Valor de irradiancia no detectado.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Irraggiamento insufficiente (&lt; </source>
+        <translation>Irradiancia insuficiente (&lt; </translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Delta Irraggiamento Elevato</source>
+        <translation>Valor de la irradiancia inestable</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Valori STC non disponibili.
+Ripetere.</source>
+        <translation>Valores en STC no disponibles.
+Repita et test.</translation>
+    </message>
+    <message>
+        <location line="+35"/>
+        <source>Temperatura fuori limite.</source>
+        <translation>Temperatura fuera límite.</translation>
+    </message>
+    <message>
+        <location line="+123"/>
+        <source>Misura Salvata.</source>
+        <translation>Medida guardada.</translation>
+    </message>
+    <message>
+        <location line="+55"/>
+        <source>Misura</source>
+        <translation>Medida</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Nome della misura già presente.</source>
+        <translation>Este nombre de medida ya existe.</translation>
     </message>
 </context>
 </TS>

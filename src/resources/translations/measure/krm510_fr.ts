@@ -12,7 +12,7 @@
 <context>
     <name>DialogDatiElettrici</name>
     <message>
-        <location filename="../../../measure/dialogdatielettrici.cpp" line="+20"/>
+        <location filename="../../../measure/dialogdatielettrici.cpp" line="+21"/>
         <source>Dati Elettrici Misurati</source>
         <translation>Données électriques mesurées</translation>
     </message>
@@ -25,7 +25,7 @@
 <context>
     <name>DialogDegrado</name>
     <message>
-        <location filename="../../../measure/dialogdegrado.cpp" line="+20"/>
+        <location filename="../../../measure/dialogdegrado.cpp" line="+21"/>
         <source>Degrado Modulo</source>
         <translation>Dégradation module</translation>
     </message>
@@ -75,7 +75,7 @@
         <translation>Dégradation module : Dégradation %</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+10"/>
         <source>Degrado Anni</source>
         <translation>Dégradation années</translation>
     </message>
@@ -94,7 +94,7 @@
 <context>
     <name>DialogInfo</name>
     <message>
-        <location filename="../../../measure/dialoginfo.cpp" line="+28"/>
+        <location filename="../../../measure/dialoginfo.cpp" line="+31"/>
         <source>Salvataggio Misure Stringhe</source>
         <translation>Sauvegarde mesures chaîne</translation>
     </message>
@@ -190,7 +190,7 @@
 <context>
     <name>DialogShutDown</name>
     <message>
-        <location filename="../../../measure/dialogshutdown.cpp" line="+16"/>
+        <location filename="../../../measure/dialogshutdown.cpp" line="+36"/>
         <source>Batteria</source>
         <translation>Batterie</translation>
     </message>
@@ -208,7 +208,7 @@
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+97"/>
+        <location filename="../../../measure/panelIV.cpp" line="+69"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -258,12 +258,12 @@
         <translation>Puissance</translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+54"/>
         <source>Misura Modulo...</source>
         <translation>Mesure module...</translation>
     </message>
     <message>
-        <location line="+49"/>
+        <location line="+61"/>
         <source>Generazione Grafico...</source>
         <translation>Génération du graphique...</translation>
     </message>
@@ -322,7 +322,7 @@ Instrument surchauffé.
 Attendre avant de reprendre les tests.</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+8"/>
         <source>Eseguito ripristino modulo potenza.</source>
         <translation>Restauration du module de puissance.</translation>
     </message>
@@ -333,7 +333,7 @@ Attendre avant de reprendre les tests.</translation>
     </message>
     <message>
         <location line="+22"/>
-        <location line="+48"/>
+        <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Acquisition mesures ambiantes</translation>
     </message>
@@ -379,7 +379,7 @@ Attendre avant de reprendre les tests.</translation>
         <translation>Ensoleillement insuffisant (&lt; </translation>
     </message>
     <message>
-        <location line="+53"/>
+        <location line="+20"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Fort variation du valeur d&apos;ensoleillement</translation>
     </message>
@@ -391,12 +391,12 @@ Ripetere.</source>
 Repeter le test.</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+35"/>
         <source>Temperatura fuori limite.</source>
         <translation>Température hors limite.</translation>
     </message>
     <message>
-        <location line="+126"/>
+        <location line="+120"/>
         <source>Misura Salvata.</source>
         <translation>Mesure sauvegardée.</translation>
     </message>
@@ -414,7 +414,7 @@ Repeter le test.</translation>
 <context>
     <name>ReferencePanel</name>
     <message>
-        <location filename="../../../measure/refpanel.cpp" line="+45"/>
+        <location filename="../../../measure/refpanel.cpp" line="+82"/>
         <source>Modulo di Riferimento</source>
         <translation>Module de référence</translation>
     </message>
@@ -458,6 +458,212 @@ Repeter le test.</translation>
         <location line="+25"/>
         <source>Vuoto</source>
         <translation>Vide</translation>
+    </message>
+</context>
+<context>
+    <name>StringIV</name>
+    <message>
+        <location filename="../../../measure/stringIV.cpp" line="+70"/>
+        <source>String IV</source>
+        <translation>String IV</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Start</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Confronto</source>
+        <translation>Comparaison</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure</source>
+        <translation>Mesures</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Salva</source>
+        <translation>Sauvegarder</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Stringa</source>
+        <translation>Chaine</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza OPC</source>
+        <translation>Puissance OPC</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza STC</source>
+        <translation>Puissance STC</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Potenza</source>
+        <translation>Puissance</translation>
+    </message>
+    <message>
+        <location line="+54"/>
+        <source>Misura Stringa...</source>
+        <translation>Mesure chaine...</translation>
+    </message>
+    <message>
+        <location line="+61"/>
+        <source>Generazione Grafico...</source>
+        <translation>Génération du graphique...</translation>
+    </message>
+    <message>
+        <location line="+55"/>
+        <source>Power Device</source>
+        <translation>Power Device</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Tensione Eccessiva.</source>
+        <translation>Valeur tension exessive.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente Eccessiva.</source>
+        <translation>Valeur de courant excessive.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Potenza Eccessiva.</source>
+        <translation>Valeur de puissance excessive.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Energia Eccessiva.</source>
+        <translation>Valeur d&apos;énergie excessive.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Polarità Inversa.</source>
+        <translation>Polarité inversée.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Negativo Flottante.</source>
+        <translation>Negatif flottant.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Tensione troppo bassa.</source>
+        <translation>Tension trop fiable.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente troppo bassa.</source>
+        <translation>Courant trop fiable.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Attendere raffreddamento...
+Strumento surriscaldato.
+Attendere prima di riprendere i test.</source>
+        <translation>Attendre le refroidissement...
+Instrument surchauffé.
+Attendre avant de reprendre les tests.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Eseguito ripristino modulo potenza.</source>
+        <translation>Restauration du module de puissance.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Problema di connessione al Power Device.</source>
+        <translation>Problème de connection à l&apos;appareil de puissance.</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <location line="+49"/>
+        <source>Acquisizione Misure Ambiente</source>
+        <translation>Acquisition mesures ambiantes</translation>
+    </message>
+    <message>
+        <location line="-23"/>
+        <source>Connessione Unità Remota</source>
+        <translation>Connexion unité distante</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Activation de la liaison...</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Unità Remota</source>
+        <translation>Unité distante</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Non connessa o assente.</source>
+        <translation>Non connectée ou absente.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <location line="+3"/>
+        <source>Misure Ambiente</source>
+        <translation>Mesures ambiantes</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Temperatura non rilevata.</source>
+        <translation>Température non détectée.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Irradiazione non rilevata.</source>
+        <translation>Valeur de radiation solaire non détecté.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Irraggiamento insufficiente (&lt; </source>
+        <translation>Ensoleillement insuffisant (&lt; </translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Delta Irraggiamento Elevato</source>
+        <translation>Fort variation du valeur d&apos;ensoleillement</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Valori STC non disponibili.
+Ripetere.</source>
+        <translation>Valeurs STC pas disponibles.
+Repeter le test.</translation>
+    </message>
+    <message>
+        <location line="+35"/>
+        <source>Temperatura fuori limite.</source>
+        <translation>Température hors limite.</translation>
+    </message>
+    <message>
+        <location line="+123"/>
+        <source>Misura Salvata.</source>
+        <translation>Mesure sauvegardée.</translation>
+    </message>
+    <message>
+        <location line="+55"/>
+        <source>Misura</source>
+        <translation>Mesure</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Nome della misura già presente.</source>
+        <translation>Ce nom de mesure déjà present.</translation>
     </message>
 </context>
 </TS>

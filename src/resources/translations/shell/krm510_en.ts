@@ -4,12 +4,12 @@
 <context>
     <name>Orvia</name>
     <message>
-        <location filename="../../../shell/orvia.cpp" line="+55"/>
+        <location filename="../../../shell/orvia.cpp" line="+60"/>
         <source>Brask</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+47"/>
         <source>Sistema</source>
         <translation>System</translation>
     </message>

@@ -1,0 +1,57 @@
+#ifndef KRM_MEASURE_TESTSCREEN_H
+#define KRM_MEASURE_TESTSCREEN_H
+
+#include "data/coredata.h"
+
+#include <QPointF>
+#include <QString>
+#include <QVector>
+
+class QProgressDialog;
+class QPushButton;
+class QWidget;
+class RemoteUnit;
+
+// What the module and the string screens share beside their texts: the
+// progress bar's look, the supply pictures, the bar's buttons and the walk of
+// the focus along the bar. Each screen keeps its own texts and its own steps.
+
+// The style sheet of the measuring progress bars: the chunk runs from the
+// colour ("blue", "green") to white.
+QString progressStyle(const char* colour);
+
+// The picture of the supply: the adapter, or the battery by its level 0 to 6;
+// null for any other level (the battery is exhausted).
+const char* supplyPicture(bool adapter, int level);
+
+// A button of the screen's bottom bar.
+QPushButton* barButton(const QString& text, const char* name, bool flat);
+
+// A name field of TEXT_COPY_SIZE bytes, zeroed, then filled from source (null leaves it empty).
+void copyName(char* target, const char* source);
+
+// A progress callback of the ramp conversion: context is a QProgressDialog.
+void showConversion(void* context, int k);
+
+// Rounds of the environment reading, counted from first: the temperature by
+// the probe mode (-20.0 in the automatic mode and the typed value in the
+// manual one, without a sensor) and the irradiance, from the local sensors
+// (with a pause of 500 us after each round) or from the connected remote
+// unit. There is no averaging: the last good value of each stands, and one
+// good round is enough. The progress dialog, when given, takes each round's
+// number.
+void readProbeRounds(const _configParam* config, int rounds, int first, QProgressDialog* progress,
+                     RemoteUnit* unit, float* temperature, bool* temperatureValid,
+                     float* irradiance, bool* irradianceValid);
+
+// The 512 points of a curve for the plot: x the voltage, y the current.
+QVector<QPointF> curvePoints(const _ramp_iv* curve);
+// The power curve of a curve, its top at 9.5 on the current axis.
+QVector<QPointF> powerPoints(const _ramp_iv* curve);
+
+// Up and Down walk the bar's five buttons as a ring; "Salva" is passed over
+// while it is disabled. focus is the screen's focus widget.
+void walkBar(int key, QWidget* focus, QPushButton* start, QPushButton* reference,
+             QPushButton* measures, QPushButton* save, QPushButton* exit);
+
+#endif
