@@ -12,6 +12,11 @@
 //   - a bare name ("date", "hwclock", "pidof", "rm") is taken from
 //     <root>/usr/bin or <root>/bin when it is there, else left to the PATH.
 // The rest of the line is passed unchanged to /bin/sh.
+// The word between single quotes, as /bin/sh reads it back unchanged: every
+// path the program puts on a command line goes through here, so that a
+// folder named "a b; 'c'" on a stick stays one argument and runs nothing.
+std::string shellQuote(const std::string& word);
+
 class Command
 {
 public:

@@ -13,6 +13,7 @@
 #include "shell/language.h"
 #include "toolkit/dialogsystem.h"
 #include "toolkit/infobar.h"
+#include "usb/usbdialog.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -92,6 +93,7 @@ Orvia::Orvia()
     connect(_buttonSystem, &QPushButton::clicked, this, &Orvia::goToSystemDialog);
     connect(_buttonPanel, &QPushButton::clicked, this, &Orvia::goToPanelIV);
     connect(_buttonArchivePanel, &QPushButton::clicked, this, &Orvia::goToArchivePanel);
+    connect(_buttonUsb, &QPushButton::clicked, this, &Orvia::goToUsbDialog);
     showMaximized();
 }
 
@@ -178,6 +180,13 @@ void Orvia::goToArchivePanel()
     delete screen;
 }
 
+void Orvia::goToUsbDialog()
+{
+    UsbDialog* screen = new UsbDialog(this);
+    screen->exec();
+    delete screen;
+}
+
 void Orvia::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
@@ -188,6 +197,8 @@ void Orvia::keyPressEvent(QKeyEvent* event)
             goToPanelIV();
         if (_buttonArchivePanel->hasFocus())
             goToArchivePanel();
+        if (_buttonUsb->hasFocus())
+            goToUsbDialog();
         break;
     case Qt::Key_Up:
         if (_buttonSystem->hasFocus())

@@ -31,6 +31,7 @@ public slots:
     void goToSystemDialog();
     void goToPanelIV();
     void goToArchivePanel();
+    void goToUsbDialog();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
