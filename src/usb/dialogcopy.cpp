@@ -28,6 +28,9 @@ DialogCopy::DialogCopy(QWidget* parent) : QDialog(parent)
     _infoBar = new InfoBar(this);
     _caption = new QLabel;
     _caption->setObjectName("caption");
+    // where the operator stands, seen from the stick's top
+    _folder = new QLabel;
+    _folder->setObjectName("folder");
     _listDir = new QListWidget;
     _listDir->setObjectName("folders");
     _buttonOpen = new QPushButton(QIcon(":/icon/next.png"), tr("Apri"));
@@ -38,6 +41,8 @@ DialogCopy::DialogCopy(QWidget* parent) : QDialog(parent)
     _buttonConfirm->setObjectName("Conferma");
     _buttonExit = new QPushButton(QIcon(":/icon/exit.png"), tr("Exit"));
     _buttonExit->setObjectName("Exit");
+    for (QPushButton* b : {_buttonOpen, _buttonBack, _buttonConfirm, _buttonExit})
+        b->setIconSize(QSize(32, 32));
     QHBoxLayout* buttons = new QHBoxLayout;
     buttons->addWidget(_buttonOpen);
     buttons->addWidget(_buttonBack);
@@ -46,6 +51,7 @@ DialogCopy::DialogCopy(QWidget* parent) : QDialog(parent)
     QVBoxLayout* box = new QVBoxLayout(this);
     box->addWidget(_infoBar);
     box->addWidget(_caption);
+    box->addWidget(_folder);
     box->addWidget(_listDir, 1);
     box->addLayout(buttons);
 
@@ -98,6 +104,8 @@ void DialogCopy::readDir()
     _listDir->clear();
     if (_baseDir.isEmpty())
         return;
+    const QString inside = QDir(_baseDir).relativeFilePath(_dir.absolutePath());
+    _folder->setText("/" + (inside == "." ? QString() : inside));
     _dir.refresh();
     _listDir->addItems(_dir.entryList());
     if (_listDir->count() > 0)

@@ -52,6 +52,7 @@ protected:
     QString _baseDir;
     InfoBar* _infoBar;
     QLabel* _caption;
+    QLabel* _folder;
     QListWidget* _listDir;
     QPushButton* _buttonOpen;
     QPushButton* _buttonBack;

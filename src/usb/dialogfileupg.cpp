@@ -29,6 +29,8 @@ DialogFileUpg::DialogFileUpg(QWidget* parent) : QDialog(parent)
     _buttonConfirm->setEnabled(false);
     _buttonExit = new QPushButton(QIcon(":/icon/exit.png"), tr("Exit"));
     _buttonExit->setObjectName("Exit");
+    _buttonConfirm->setIconSize(QSize(32, 32));
+    _buttonExit->setIconSize(QSize(32, 32));
     QHBoxLayout* buttons = new QHBoxLayout;
     buttons->addWidget(_buttonConfirm);
     buttons->addWidget(_buttonExit);

@@ -237,9 +237,15 @@ class TestUsbDialog : public QObject
 {
     Q_OBJECT
 
-private slots:
+public:
     static void initMain() { useInstrumentScreen(); }
-    void initTestCase() { useInstrumentDpi(); }
+
+private slots:
+    void initTestCase()
+    {
+        useInstrumentDpi();
+        QApplication::setFont(instrumentFont());
+    }
 
     void screenShowsItsButtonsUnderTheUsbTitle()
     {
@@ -583,6 +589,7 @@ private slots:
         pick(&d, "Impianti 2024");
         touch(&d, "Apri");
         QCOMPARE(rows(&d), QStringList({"Bianchi", "Rossi", "Verdi"}));
+        QCOMPARE(d.findChild<QLabel*>("folder")->text(), QString("/Impianti 2024"));
         QVERIFY(QTest::qWaitForWindowExposed(&d));
         saveScreenshot(&d, "usb-copy-to");
     }
