@@ -2,7 +2,9 @@
 // test root: the copy scripts on plain folders, and the whole round of
 // mount, copy both ways and unmount on a FAT image behind a loop device, in
 // a private mount namespace so that nothing shows outside the test.
+#include "platform/command.h"
 #include "support/testroot.h"
+#include "usbfixture.h"
 
 #include <QDirIterator>
 #include <QProcess>
@@ -63,35 +65,6 @@ Run sh(const TestRoot& root, const QString& line, const QStringList& wrapper = {
             p.readAllStandardError()};
 }
 
-QMap<QString, QByteArray> contents(const QString& dir)
-{
-    QMap<QString, QByteArray> files;
-    QDirIterator it(dir, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        QString path = it.next();
-        QFile f(path);
-        if (f.open(QIODevice::ReadOnly))
-            files.insert(QDir(dir).relativeFilePath(path), f.readAll());
-    }
-    return files;
-}
-
-QByteArray testData(const char* name)
-{
-    QFile f(QString(KRM_TEST_DATA_DIR) + "/" + name);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-bool fillData(const TestRoot& root)
-{
-    return root.write("/krm510data/datapanel/hit/hit_240", testData("module_hit_240")) &&
-           root.write("/krm510data/datacompany/rossi___figli", testData("company_rossi___figli")) &&
-           root.write("/krm510data/datainstallation/capannone_nord",
-                      testData("installation_capannone_nord")) &&
-           root.write("/krm510data/datameapanel/prova_256", testData("measure_256_points")) &&
-           root.write("/krm510data/datameastring/prova_512", testData("measure_512_points"));
-}
-
 // The five copies one way, then the other, as the copy screens call them.
 QString copyToLine(const QString& target)
 {
@@ -111,11 +84,25 @@ QString copyFromLine(const QString& source)
 
 } // namespace
 
+using namespace usb;
+
 class TestDeviceScripts : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void shellQuoteGivesTheShellEveryCharacterBackAsOneWord()
+    {
+        TestRoot root;
+        for (const std::string& word : {std::string("a b 'c'; touch pwned"), std::string("''"),
+                                        std::string("$(id) `id` \\ \"x\""), std::string(),
+                                        std::string("new\nline\ttab*?[a]")}) {
+            Run r =
+                sh(root, QString::fromStdString("printf '%s|' " + shellQuote(word) + "; echo $#"));
+            QCOMPARE(r.out, QByteArray::fromStdString(word) + "|0\n");
+        }
+        QVERIFY(!QFileInfo::exists(QDir::currentPath() + "/pwned"));
+    }
     void copyScriptsCopyBothWaysIntoAFolderWithBlanksQuotesAndASemicolon()
     {
         TestRoot root;

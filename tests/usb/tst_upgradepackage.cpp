@@ -10,12 +10,15 @@
 #include "support/siminstrument.h"
 #include "support/testroot.h"
 #include "usb/usbdialog.h"
+#include "usbfixture.h"
 
 #include <QListWidget>
 #include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
+
+using namespace usb;
 
 namespace
 {
@@ -39,39 +42,10 @@ int run(const QString& program, const QStringList& args, QByteArray* err = nullp
     return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
 }
 
-bool writeFile(const QString& path, const QByteArray& content)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile f(path);
-    return f.open(QIODevice::WriteOnly) && f.write(content) == content.size();
-}
-
 QByteArray readFile(const QString& path)
 {
     QFile f(path);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-QByteArray hexRecord(int type, unsigned address, const QByteArray& data)
-{
-    QByteArray bytes;
-    bytes += static_cast<char>(data.size());
-    bytes += static_cast<char>((address >> 8) & 0xFF);
-    bytes += static_cast<char>(address & 0xFF);
-    bytes += static_cast<char>(type);
-    bytes += data;
-    unsigned sum = 0;
-    for (char c : bytes)
-        sum += static_cast<unsigned char>(c);
-    bytes += static_cast<char>((0x100 - (sum & 0xFF)) & 0xFF);
-    return ":" + bytes.toHex().toUpper() + "\r\n";
-}
-
-QByteArray firmware()
-{
-    return hexRecord(4, 0, QByteArray("\x00\x00", 2)) +
-           hexRecord(0, 0x0010, QByteArray("\x11\x22\x33\x00", 4)) +
-           hexRecord(0, 0x1000, QByteArray("\x44\x55\x66\x00", 4)) + hexRecord(1, 0, QByteArray());
 }
 
 // Keys, a build tree and the instrument's versioned layout, all the test's.
@@ -151,6 +125,25 @@ public:
     QTemporaryDir dir;
     bool ok = false;
 };
+
+// The package put on a mounted stick under the name given and installed from
+// the stick screen: the texts of the boxes that followed.
+QStringList upgradeFromStick(const SimInstrument& sim, const QString& package, const QString& name)
+{
+    if (package.isEmpty() || !sim.stickIn() ||
+        system(qPrintable(sim.root() + "/usr/bin/mountusb.sh >/dev/null")) != 0 ||
+        !QFile::copy(package, sim.stickPath() + "/" + name))
+        return {"<no stick>"};
+    UsbDialog d(nullptr);
+    ModalDriver driver;
+    driver.onNext([name](QWidget* files) { chooseUpgradeFile(files, name); });
+    driver.answerBox();
+    QTest::mouseClick(d.findChild<QPushButton*>("Aggiornamento"), Qt::LeftButton);
+    QStringList texts;
+    for (const ModalDriver::Box& box : driver.boxes)
+        texts << box.text;
+    return texts;
+}
 
 } // namespace
 
@@ -266,24 +259,8 @@ private slots:
         SimInstrument sim(root);
         Workshop w(root);
         QVERIFY(w.ok);
-        const QString package = w.make("krm510-2.0.upg", true);
-        QVERIFY(sim.stickIn());
-        QCOMPARE(system(qPrintable(sim.root() + "/usr/bin/mountusb.sh >/dev/null")), 0);
-        QVERIFY(QFile::copy(package, sim.stickPath() + "/KRM510-2.0.UPG"));
-        UsbDialog d(nullptr);
-        ModalDriver driver;
-        driver.onNext([](QWidget* files) {
-            QListWidget* list = files->findChild<QListWidget*>();
-            QCOMPARE(list->count(), 1);
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
-                              list->visualItemRect(list->item(0)).center());
-            QTest::mouseClick(files->findChild<QPushButton*>("Conferma"), Qt::LeftButton);
-        });
-        driver.answerBox();
-        QTest::mouseClick(d.findChild<QPushButton*>("Aggiornamento"), Qt::LeftButton);
-        QCOMPARE(driver.pending(), 0);
-        QCOMPARE(driver.boxes.size(), 1);
-        QCOMPARE(driver.boxes[0].text, QString("Riavviare KRM510"));
+        QCOMPARE(upgradeFromStick(sim, w.make("krm510-2.0.upg", true), "KRM510-2.0.UPG"),
+                 QStringList({"Riavviare KRM510"}));
         QCOMPARE(sim.flashRows(), QList<unsigned>({0x0000, 0x0800}));
         QVERIFY(!root.exists("/home/ORVIAp.hex"));
         QCOMPARE(w.current(), root.path("/opt/krm510/versions/2.0"));
@@ -291,28 +268,14 @@ private slots:
         QVERIFY(root.read("/var/lib/krm510-sim/commands.log").contains("krmupgrade.sh"));
     }
 
-    void changedPackageFromTheStickStillAsksForARestartAndFlashesNothing()
+    void badPackageFromTheStickStillAsksForARestartAndFlashesNothing()
     {
         TestRoot root(0.1);
         SimInstrument sim(root);
         Workshop w(root);
         QVERIFY(w.ok);
-        const QString package = w.make("krm510-2.0.upg", true, "other.key");
-        QVERIFY(sim.stickIn());
-        QCOMPARE(system(qPrintable(sim.root() + "/usr/bin/mountusb.sh >/dev/null")), 0);
-        QVERIFY(QFile::copy(package, sim.stickPath() + "/krm510-2.0.upg"));
-        UsbDialog d(nullptr);
-        ModalDriver driver;
-        driver.onNext([](QWidget* files) {
-            QListWidget* list = files->findChild<QListWidget*>();
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
-                              list->visualItemRect(list->item(0)).center());
-            QTest::mouseClick(files->findChild<QPushButton*>("Conferma"), Qt::LeftButton);
-        });
-        driver.answerBox();
-        QTest::mouseClick(d.findChild<QPushButton*>("Aggiornamento"), Qt::LeftButton);
-        QCOMPARE(driver.boxes.size(), 1);
-        QCOMPARE(driver.boxes[0].text, QString("Riavviare KRM510"));
+        QCOMPARE(upgradeFromStick(sim, w.make("krm510-2.0.upg", true, "other.key"), "krm510.upg"),
+                 QStringList({"Riavviare KRM510"}));
         QVERIFY(sim.flashRows().isEmpty());
         QCOMPARE(sim.field("power", "writes"), QByteArray("0"));
         w.verifyUnchanged();

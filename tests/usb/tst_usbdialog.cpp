@@ -15,6 +15,7 @@
 #include "usb/dialogcopyto.h"
 #include "usb/dialogfileupg.h"
 #include "usb/usbdialog.h"
+#include "usbfixture.h"
 
 #include <QDirIterator>
 #include <QLabel>
@@ -135,38 +136,6 @@ bool makeDirs(const QString& base, const QStringList& dirs)
     return true;
 }
 
-// Every file under a folder with its content, by relative path.
-QMap<QString, QByteArray> contents(const QString& dir)
-{
-    QMap<QString, QByteArray> files;
-    QDirIterator it(dir, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        QString path = it.next();
-        QFile f(path);
-        if (f.open(QIODevice::ReadOnly))
-            files.insert(QDir(dir).relativeFilePath(path), f.readAll());
-    }
-    return files;
-}
-
-QByteArray testData(const char* name)
-{
-    QFile f(QString(KRM_TEST_DATA_DIR) + "/" + name);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-// The five data directories filled with the test files of each kind.
-bool fillData(const TestRoot& root)
-{
-    return root.write("/krm510data/datapanel/hit/hit_240", testData("module_hit_240")) &&
-           root.write("/krm510data/datapanel/hit/brand", "HIT\n") &&
-           root.write("/krm510data/datacompany/rossi___figli", testData("company_rossi___figli")) &&
-           root.write("/krm510data/datainstallation/capannone_nord",
-                      testData("installation_capannone_nord")) &&
-           root.write("/krm510data/datameapanel/prova_256", testData("measure_256_points")) &&
-           root.write("/krm510data/datameastring/prova_512", testData("measure_512_points"));
-}
-
 // Cancels the copy's progress dialog when its bar reaches the value: the
 // dialog is caught as it shows, so the cancel falls between two directories.
 class CancelAt : public QObject
@@ -192,31 +161,6 @@ public:
     QList<QObject*> hooked;
 };
 
-// One Intel HEX record, checksum included.
-QByteArray hexRecord(int type, unsigned address, const QByteArray& data)
-{
-    QByteArray bytes;
-    bytes += static_cast<char>(data.size());
-    bytes += static_cast<char>((address >> 8) & 0xFF);
-    bytes += static_cast<char>(address & 0xFF);
-    bytes += static_cast<char>(type);
-    bytes += data;
-    unsigned sum = 0;
-    for (char c : bytes)
-        sum += static_cast<unsigned char>(c);
-    bytes += static_cast<char>((0x100 - (sum & 0xFF)) & 0xFF);
-    return ":" + bytes.toHex().toUpper() + "\r\n";
-}
-
-// A firmware with a word in the first program row and one at 0x0800 (the
-// instruction at word 0x800, a row of its own).
-QByteArray firmware()
-{
-    return hexRecord(4, 0, QByteArray("\x00\x00", 2)) +
-           hexRecord(0, 0x0010, QByteArray("\x11\x22\x33\x00", 4)) +
-           hexRecord(0, 0x1000, QByteArray("\x44\x55\x66\x00", 4)) + hexRecord(1, 0, QByteArray());
-}
-
 // The package script of the test: logs its argument and, when the stick
 // holds a firmware beside the package, leaves it as the image.
 bool upgradeScript(const TestRoot& root)
@@ -231,7 +175,18 @@ bool upgradeScript(const TestRoot& root)
                       "echo installed\n");
 }
 
+// A mounted stick with a package and, beside it, a firmware that the test's
+// package script leaves as the image.
+bool stickWithFirmware(const TestRoot& root, const SimInstrument& sim)
+{
+    return mountedStick(sim) && upgradeScript(root) && root.mkdir("/home") &&
+           usb::writeFile(sim.stickPath() + "/firmware.hex", usb::firmware()) &&
+           usb::writeFile(sim.stickPath() + "/krm510-3.0.upg", QByteArray());
+}
+
 } // namespace
+
+using namespace usb;
 
 class TestUsbDialog : public QObject
 {
@@ -263,6 +218,24 @@ private slots:
         saveScreenshot(&d, "usb-screen");
         touch(&d, "Exit");
         QCOMPARE(d.result(), int(QDialog::Rejected));
+    }
+
+    void downAndUpWalkTheButtonsAndReturnPressesTheFocusedOne()
+    {
+        TestRoot root(0.01);
+        SimInstrument sim(root);
+        UsbDialog d(nullptr);
+        QVERIFY(QTest::qWaitForWindowActive(&d));
+        QCOMPARE(QApplication::focusWidget()->objectName(), QString("Connetti"));
+        QTest::keyClick(&d, Qt::Key_Down);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QString("Disconnetti"));
+        QTest::keyClick(&d, Qt::Key_Down);
+        QTest::keyClick(&d, Qt::Key_Up);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QString("Disconnetti"));
+        ModalDriver driver;
+        driver.answerBox();
+        QTest::keyClick(&d, Qt::Key_Return);
+        QCOMPARE(driver.boxes.value(0).text, QString("E' disconnesso"));
     }
 
     void connectWithAStickAlreadyConnectedSaysSoAndRunsNothing()
@@ -683,20 +656,10 @@ private slots:
     {
         TestRoot root(0.1);
         SimInstrument sim(root);
-        QVERIFY(mountedStick(sim));
-        QVERIFY(upgradeScript(root));
-        QVERIFY(root.mkdir("/home"));
-        QFile hex(sim.stickPath() + "/firmware.hex");
-        QVERIFY(hex.open(QIODevice::WriteOnly));
-        hex.write(firmware());
-        hex.close();
-        QVERIFY(QFile(sim.stickPath() + "/krm510-3.0.upg").open(QIODevice::WriteOnly));
+        QVERIFY(stickWithFirmware(root, sim));
         UsbDialog d(nullptr);
         ModalDriver driver;
-        driver.onNext([](QWidget* w) {
-            pick(w, "krm510-3.0.upg");
-            touch(w, "Conferma");
-        });
+        driver.onNext([](QWidget* w) { chooseUpgradeFile(w, "krm510-3.0.upg"); });
         driver.answerBox();
         touch(&d, "Aggiornamento");
         QCOMPARE(driver.pending(), 0);
@@ -712,20 +675,10 @@ private slots:
         TestRoot root(0.1);
         SimInstrument sim(root);
         QVERIFY(sim.command("loader version 1")); // a loader too old: the job gives up
-        QVERIFY(mountedStick(sim));
-        QVERIFY(upgradeScript(root));
-        QVERIFY(root.mkdir("/home"));
-        QFile hex(sim.stickPath() + "/firmware.hex");
-        QVERIFY(hex.open(QIODevice::WriteOnly));
-        hex.write(firmware());
-        hex.close();
-        QVERIFY(QFile(sim.stickPath() + "/krm510-3.0.upg").open(QIODevice::WriteOnly));
+        QVERIFY(stickWithFirmware(root, sim));
         UsbDialog d(nullptr);
         ModalDriver driver;
-        driver.onNext([](QWidget* w) {
-            pick(w, "krm510-3.0.upg");
-            touch(w, "Conferma");
-        });
+        driver.onNext([](QWidget* w) { chooseUpgradeFile(w, "krm510-3.0.upg"); });
         driver.answerBox();
         driver.answerBox();
         touch(&d, "Aggiornamento");
