@@ -184,11 +184,6 @@ void UsbDialog::goToUpgrade()
         msgUsb();
         return;
     }
-    QProgressDialog progress(tr("Aggiornamento KRM 510..."), QString(), 0, 4, this);
-    styleProgress(progress);
-    progress.setMinimumDuration(0);
-    progress.hide();
-
     DialogFileUpg* files = new DialogFileUpg(this);
     const int result = files->exec();
     const QString dirName = files->_dirName;
@@ -197,6 +192,10 @@ void UsbDialog::goToUpgrade()
     if (result != QDialog::Accepted || fileName.isEmpty())
         return;
 
+    // made once the file is chosen, so that it never shows over the list
+    QProgressDialog progress(tr("Aggiornamento KRM 510..."), QString(), 0, 4, this);
+    styleProgress(progress);
+    progress.setMinimumDuration(0);
     progress.show();
     progress.setValue(1);
     QCoreApplication::processEvents();

@@ -4,7 +4,7 @@
 <context>
     <name>DialogCopy</name>
     <message>
-        <location filename="../../../usb/dialogcopy.cpp" line="+33"/>
+        <location filename="../../../usb/dialogcopy.cpp" line="+36"/>
         <source>Apri</source>
         <translation>Ouvrir</translation>
     </message>
@@ -24,7 +24,7 @@
         <translation>Sortie</translation>
     </message>
     <message>
-        <location line="+137"/>
+        <location line="+142"/>
         <source>Cancella...</source>
         <translation>Annuler...</translation>
     </message>
@@ -170,12 +170,12 @@
         <translation>Déconnexion...</translation>
     </message>
     <message>
-        <location line="+42"/>
+        <location line="+51"/>
         <source>Aggiornamento KRM 510...</source>
         <translation>Mise à jour KRM 510...</translation>
     </message>
     <message>
-        <location line="+38"/>
+        <location line="+28"/>
         <location line="+3"/>
         <source>KRM510 Aggiornamento</source>
         <translation>KRM510 Mise à jour</translation>
