@@ -78,6 +78,12 @@ const char* const copyTo =
     "rm -rf \"$dst/$name\"\n"
     "cp -R \"$ROOT/krm510data/$name\" \"$dst/$name\"\n";
 
+// The instrument's own upgrade script from the source tree, run with the
+// machine folder as its system root: a package is checked and installed on
+// the desktop exactly as on the instrument.
+const std::string upgrade = "KRM_ROOT=\"$ROOT\" exec /bin/sh " +
+                            shellQuote(KRM_DEVICE_SCRIPTS "/krmupgrade.sh") + " \"$@\"\n";
+
 const char* const linkUp =
     "link_up() {\n"
     "    [ -n \"$1\" ] && printf '%s\\n' \"$1\" > \"$STATE/bt.mac\"\n"
@@ -173,6 +179,7 @@ bool installScripts(const std::string& root, std::string* error)
         {"/usr/bin/umountusb.sh", "umountusb.sh", umount},
         {"/usr/bin/krmcopyfrom.sh", "krmcopyfrom.sh", copyFrom},
         {"/usr/bin/krmcopyto.sh", "krmcopyto.sh", copyTo},
+        {"/usr/bin/krmupgrade.sh", "krmupgrade.sh", upgrade},
         {"/usr/bin/krmhci.sh", "krmhci.sh", std::string(linkUp) + hci},
         {"/usr/bin/rfcomm", "rfcomm", std::string(linkUp) + rfcomm},
         {"/usr/bin/pidof", "pidof", pidof},

@@ -17,8 +17,11 @@ std::string Command::quote(const std::string& word)
     for (char c : word)
         if (!(isalnum(static_cast<unsigned char>(c)) || strchr("/._-+=:,@%", c) != nullptr))
             plain = false;
-    if (plain)
-        return word;
+    return plain ? word : shellQuote(word);
+}
+
+std::string shellQuote(const std::string& word)
+{
     std::string quoted = "'";
     for (char c : word) {
         if (c == '\'')

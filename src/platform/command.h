@@ -13,8 +13,15 @@
 //     <root>/usr/bin or <root>/bin when it is there, else left to the PATH.
 // The rest of the line is passed unchanged to /bin/sh: every text that does
 // not come from the program itself (a setting, a folder on a stick) goes into
-// it through quote(), so that it reaches the command as one argument and runs
+// it through quote() or shellQuote(), so that it reaches the command as one
+// argument and runs
 // nothing else.
+
+// The word between single quotes, as /bin/sh reads it back unchanged: every
+// path the program puts on a command line goes through here, so that a
+// folder named "a b; 'c'" on a stick stays one argument and runs nothing.
+std::string shellQuote(const std::string& word);
+
 class Command
 {
 public:

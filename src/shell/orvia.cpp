@@ -15,6 +15,7 @@
 #include "shell/language.h"
 #include "toolkit/dialogsystem.h"
 #include "toolkit/infobar.h"
+#include "usb/usbdialog.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -95,6 +96,7 @@ Orvia::Orvia()
     connect(_buttonPanel, &QPushButton::clicked, this, &Orvia::goToPanelIV);
     connect(_buttonString, &QPushButton::clicked, this, &Orvia::goToStringIV);
     connect(_buttonArchivePanel, &QPushButton::clicked, this, &Orvia::goToArchivePanel);
+    connect(_buttonUsb, &QPushButton::clicked, this, &Orvia::goToUsbDialog);
     showMaximized();
 }
 
@@ -195,6 +197,13 @@ void Orvia::goToArchivePanel()
     delete screen;
 }
 
+void Orvia::goToUsbDialog()
+{
+    UsbDialog* screen = new UsbDialog(this);
+    screen->exec();
+    delete screen;
+}
+
 // The service menu of the measuring board. No button and no key of this
 // window leads here: the service button is never shown.
 void Orvia::goToBraskDebug()
@@ -216,6 +225,8 @@ void Orvia::keyPressEvent(QKeyEvent* event)
             goToStringIV();
         if (_buttonArchivePanel->hasFocus())
             goToArchivePanel();
+        if (_buttonUsb->hasFocus())
+            goToUsbDialog();
         break;
     case Qt::Key_Up:
         if (_buttonSystem->hasFocus())
