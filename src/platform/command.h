@@ -14,8 +14,7 @@
 // The rest of the line is passed unchanged to /bin/sh: every text that does
 // not come from the program itself (a setting, a folder on a stick) goes into
 // it through quote() or shellQuote(), so that it reaches the command as one
-// argument and runs
-// nothing else.
+// argument and runs nothing else.
 
 // The word between single quotes, as /bin/sh reads it back unchanged: every
 // path the program puts on a command line goes through here, so that a

@@ -199,7 +199,7 @@ private slots:
     void initTestCase()
     {
         useInstrumentDpi();
-        QApplication::setFont(instrumentFont());
+        setInstrumentLook();
     }
 
     void screenShowsItsButtonsUnderTheUsbTitle()
