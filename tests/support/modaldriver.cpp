@@ -12,7 +12,7 @@
 #include <QPushButton>
 #include <QtTest>
 
-ModalDriver::ModalDriver()
+ModalDriver::ModalDriver() : screen(QApplication::activeModalWidget())
 {
     connect(&timer, &QTimer::timeout, this, &ModalDriver::poll);
     timer.start(5);
@@ -25,7 +25,7 @@ void ModalDriver::poll()
     if (actions.isEmpty())
         return;
     QWidget* modal = QApplication::activeModalWidget();
-    if (modal == nullptr || modal == last || !modal->isVisible())
+    if (modal == nullptr || modal == last || modal == screen || !modal->isVisible())
         return;
     // a progress dialog is nobody's to answer: wait for what opens over it
     if (qobject_cast<QProgressDialog*>(modal) != nullptr)

@@ -63,6 +63,10 @@ private:
                                                std::function<void(QWidget*)> action);
     QList<std::function<void(QWidget*)>> actions;
     QPointer<QWidget> last; // a deleted window frees its address for the next one
+    // The screen under test, when it was already the modal window as the
+    // driver started: it comes back on top between two boxes, and is not
+    // one of the windows the driver is to answer.
+    QPointer<QWidget> screen;
     QTimer timer;
 };
 
