@@ -4,24 +4,14 @@
 #include "support/screenshot.h"
 #include "support/siminstrument.h"
 #include "support/testroot.h"
-#include "toolkit/infobar.h"
 #include "usb/usbdialog.h"
 
-#include <QLabel>
 #include <QPushButton>
 #include <QtTest>
 
 class TestUsbLook : public QObject
 {
     Q_OBJECT
-
-    static bool hasPowerPicture(QWidget* screen)
-    {
-        for (QLabel* label : screen->findChild<InfoBar*>()->findChildren<QLabel*>())
-            if (!label->pixmap().isNull())
-                return true;
-        return false;
-    }
 
 public:
     static void initMain() { useInstrumentScreen(); }
@@ -42,9 +32,7 @@ private slots:
         screen.resize(1024, 600);
         screen.show();
         QVERIFY(QTest::qWaitForWindowActive(&screen));
-        // the status bar shows the power supply from its first poll on: the
-        // grabs are taken once it does, so that only the focus changes
-        QTRY_VERIFY(hasPowerPicture(&screen));
+        QTRY_VERIFY(showsPowerSupply(&screen));
         QWidget* first = screen.findChild<QPushButton*>("Connetti");
         QVERIFY(first != nullptr);
         const QStringList legibility = legibilityFaults(&screen);
