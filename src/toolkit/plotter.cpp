@@ -75,7 +75,8 @@ void PlotSettings::adjustAxis(double& min, double& max, int& numTicks)
 
 // --------------------------------------------------------------------- Plotter
 
-namespace {
+namespace
+{
 
 // i intervals of n along a length of pixels, as an integer quotient. The
 // product is taken wide so that no tick count can overflow it.
@@ -98,6 +99,15 @@ Plotter::Plotter(QWidget* parent, QString title, QWidget* hideTarget)
     : QWidget(parent), pmaxLabel(0.0f), testResult(4), plotTitle(title), curZoom(0),
       rubberBandShown(false), viewPassTest(false)
 {
+    // The plot keeps its two roles, the background in Dark and the labels,
+    // title and ticks in Light, but not the screens' values of them: the
+    // instrument's grey Dark under white labels reads at 2.65:1, lost in the
+    // sun. Its own near-black Dark under white gives the labels 13:1 and the
+    // red curve, the darkest that must be read, 3.3:1.
+    QPalette own = palette();
+    own.setColor(QPalette::Dark, QColor(PlotDark));
+    own.setColor(QPalette::Light, QColor(PlotLight));
+    setPalette(own);
     setBackgroundRole(QPalette::Dark);
     setAutoFillBackground(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -374,7 +384,8 @@ void Plotter::drawCurves(QPainter* painter)
         run.reserve(data.size());
         for (const QPointF& p : data) {
             const double x = ((right - Margin) * (p.x() - settings.minX)) / settings.spanX() + 25.0;
-            const double y = bottom - ((bottom - Margin) * (p.y() - settings.minY)) / settings.spanY();
+            const double y =
+                bottom - ((bottom - Margin) * (p.y() - settings.minY)) / settings.spanY();
             if (std::isfinite(x) && std::isfinite(y)) {
                 run.append(QPointF(x, y));
             } else {

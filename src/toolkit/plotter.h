@@ -54,6 +54,9 @@ class Plotter : public QWidget
 
 public:
     enum { Margin = 25 };
+    // The plot's own background (its Dark) and labels (its Light).
+    static constexpr QRgb PlotDark = 0x303030;
+    static constexpr QRgb PlotLight = 0xffffff;
 
     Plotter(QWidget* parent, QString title, QWidget* hideTarget);
 
@@ -73,7 +76,7 @@ public:
     const QVector<PlotSettings>& zoomLevels() const { return zoomStack; }
     int currentZoom() const { return curZoom; }
     const PlotSettings& settings() const { return zoomStack[curZoom]; }
-    const QMap<int, QVector<QPointF> >& curves() const { return curveMap; }
+    const QMap<int, QVector<QPointF>>& curves() const { return curveMap; }
     bool isRubberBandShown() const { return rubberBandShown; }
     const QPixmap& picture() const { return pixmap; }
 
@@ -116,7 +119,7 @@ private:
     QString plotTitle;
     QToolButton* zoomInButton;
     QToolButton* zoomOutButton;
-    QMap<int, QVector<QPointF> > curveMap;
+    QMap<int, QVector<QPointF>> curveMap;
     QVector<PlotSettings> zoomStack;
     int curZoom;
     bool rubberBandShown;

@@ -3,6 +3,7 @@
 
 #include "data/datasetting.h"
 #include "debugbrask/debugdir.h"
+#include "support/lookcheck.h"
 #include "support/modaldriver.h"
 #include "support/screenshot.h"
 #include "support/siminstrument.h"
@@ -96,10 +97,17 @@ inline QByteArray golden(const char* name)
     return f.readAll();
 }
 
-// The screen at the instrument's size, drawn into build/screenshots.
+// The screen at the instrument's size, shown and legible in the sun (no text
+// below 11 pixels, none wider than its widget), drawn into build/screenshots.
 inline void saveScreenshotOf(QWidget* screen, const char* name)
 {
     screen->resize(1024, 600);
+    if (!screen->isVisible()) {
+        screen->show();
+        QVERIFY(QTest::qWaitForWindowExposed(screen));
+    }
+    const QStringList faults = legibilityFaults(screen);
+    QVERIFY2(faults.isEmpty(), qPrintable(QString(name) + ":\n" + faults.join('\n')));
     QVERIFY(!saveScreenshot(screen, name).isEmpty());
 }
 

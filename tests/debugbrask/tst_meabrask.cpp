@@ -96,8 +96,7 @@ private slots:
                          .arg(v)
                          .arg(double(float(i - c.adci1offset) * c.adci1), 0, 'g', 6)
                          .arg(double((float(v) - c.adcv1offset) * c.adcv1), 0, 'g', 6));
-            view->resize(1024, 600);
-            saveScreenshot(view, "service_view_mea_brask");
+            saveScreenshotOf(view, "service_view_mea_brask");
         });
         QCOMPARE(driver.boxes.size(), 1);
         QCOMPARE(driver.boxes[0].text, QString("Misura Salvata."));

@@ -234,8 +234,7 @@ private slots:
                                                   .arg(screen._tst.tensione[127])
                                                   .arg(screen._tst.vGateImp[127])
                                                   .arg(screen._tst.vGateEff[127]));
-            view->resize(1024, 600);
-            saveScreenshot(view, "service_view_sweep_brask");
+            saveScreenshotOf(view, "service_view_sweep_brask");
         });
         QCOMPARE(driver.boxes.size(), 1);
         QCOMPARE(driver.boxes[0].text, QString("Misura Salvata."));

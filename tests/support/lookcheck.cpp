@@ -1,6 +1,7 @@
 #include "support/lookcheck.h"
 
 #include "support/siminstrument.h"
+#include "toolkit/infobar.h"
 #include "toolkit/plotter.h"
 #include "toolkit/textfit.h"
 
@@ -285,4 +286,15 @@ QStringList focusMarkFaults(QWidget* screen, const QImage& before, const QImage&
                       .arg(firstOutside.x())
                       .arg(firstOutside.y());
     return faults;
+}
+
+bool showsPowerSupply(QWidget* screen)
+{
+    const InfoBar* bar = screen->findChild<InfoBar*>();
+    if (bar == nullptr)
+        return false;
+    for (const QLabel* label : bar->findChildren<QLabel*>())
+        if (!label->pixmap().isNull())
+            return true;
+    return false;
 }

@@ -35,6 +35,11 @@ QStringList focusMarkFaults(QWidget* screen, const QImage& before, const QImage&
 QStringList focusMarkFaultsByKey(QWidget* screen, const SimInstrument& sim, QWidget* a,
                                  const char* key);
 
+// True once the status bar of the screen shows the power supply, which it
+// does from its first poll on: grabs compared for the focus are taken after
+// it, so that only the focus changes between them.
+bool showsPowerSupply(QWidget* screen);
+
 // The screen (or any widget) as it is now on its window, its pending events
 // served first.
 QImage grabScreen(QWidget* screen);

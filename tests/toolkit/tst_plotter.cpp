@@ -13,7 +13,8 @@
 #include <cmath>
 #include <limits>
 
-namespace {
+namespace
+{
 
 const QColor red(Qt::red);
 const QColor green(Qt::green);
@@ -108,8 +109,8 @@ void wheel(QWidget* w, QPoint angle)
 
 bool sameAxes(const PlotSettings& a, const PlotSettings& b)
 {
-    return a.minX == b.minX && a.maxX == b.maxX && a.numXTicks == b.numXTicks
-           && a.minY == b.minY && a.maxY == b.maxY && a.numYTicks == b.numYTicks;
+    return a.minX == b.minX && a.maxX == b.maxX && a.numXTicks == b.numXTicks && a.minY == b.minY &&
+           a.maxY == b.maxY && a.numYTicks == b.numYTicks;
 }
 
 // Remembers which texts the plot asks the catalogue for, under its context.
@@ -363,9 +364,11 @@ private slots:
     {
         const double nan = std::numeric_limits<double>::quiet_NaN();
         const double inf = std::numeric_limits<double>::infinity();
-        const double cases[][2] = {{5.0, 5.0},   {8.0, 2.0},   {nan, 3.0},  {0.0, nan},
-                                   {0.0, inf},   {-inf, 0.0},  {-1e308, 1e308},
-                                   {0.0, std::numeric_limits<double>::denorm_min()}};
+        const double cases[][2] = {
+            {5.0, 5.0},      {8.0, 2.0},
+            {nan, 3.0},      {0.0, nan},
+            {0.0, inf},      {-inf, 0.0},
+            {-1e308, 1e308}, {0.0, std::numeric_limits<double>::denorm_min()}};
         for (const auto& c : cases) {
             double min = c[0], max = c[1];
             int ticks = 7;
@@ -577,11 +580,11 @@ private slots:
         const QColor grid = shade(s.plot.palette().color(QPalette::Dark).lighter(150));
         const QColor tick = role(s.plot, QPalette::Light);
         const QColor background = role(s.plot, QPalette::Dark);
-        QCOMPARE(at(img, 25 + 949 / 5, 200), grid);      // 214, not 215
+        QCOMPARE(at(img, 25 + 949 / 5, 200), grid); // 214, not 215
         QCOMPARE(at(img, 25 + 949 / 5 + 1, 200), background);
-        QCOMPARE(at(img, 25 + 2 * 949 / 5, 200), grid);  // 404
+        QCOMPARE(at(img, 25 + 2 * 949 / 5, 200), grid); // 404
         QCOMPARE(at(img, 25 + 949 / 5, s.bottom() + 3), tick);
-        const int y = s.bottom() - 489 / 5;             // 417
+        const int y = s.bottom() - 489 / 5; // 417
         QCOMPARE(at(img, 500, y), grid);
         QCOMPARE(at(img, 500, y - 1), background);
         QCOMPARE(at(img, 22, y), tick);
@@ -652,8 +655,8 @@ private slots:
     void curvesAreDrawnInAscendingIdOrder()
     {
         Shown s;
-        s.plot.setCurveData(9, line({0, 5}, {50, 5}));  // magenta
-        s.plot.setCurveData(1, line({0, 5}, {50, 5}));  // green, under it
+        s.plot.setCurveData(9, line({0, 5}, {50, 5})); // magenta
+        s.plot.setCurveData(1, line({0, 5}, {50, 5})); // green, under it
         const int y = s.bottom() - (s.bottom() - 25) / 2;
         const QImage img = s.image();
         QVERIFY(near(img, 300, y, magenta));
@@ -742,8 +745,9 @@ private slots:
         Shown s;
         const double nan = std::numeric_limits<double>::quiet_NaN();
         const double inf = std::numeric_limits<double>::infinity();
-        s.plot.setCurveData(0, {{0, 5}, {10, 5}, {nan, 5}, {30, 5}, {40, 5},
-                                {inf, 5}, {45, nan}, {48, 5}, {50, 5}});
+        s.plot.setCurveData(
+            0,
+            {{0, 5}, {10, 5}, {nan, 5}, {30, 5}, {40, 5}, {inf, 5}, {45, nan}, {48, 5}, {50, 5}});
         const QImage img = s.image();
         const int y = s.bottom() - (s.bottom() - 25) / 2;
         auto px = [&](double v) { return 25 + static_cast<int>((s.right() - 25) * v / 50.0); };
@@ -891,7 +895,7 @@ private slots:
         Shown s;
         QTest::mousePress(&s.plot, Qt::LeftButton, Qt::NoModifier, {100, 100});
         QVERIFY(s.plot.isRubberBandShown());
-                QCOMPARE(s.plot.cursor().shape(), Qt::CrossCursor);
+        QCOMPARE(s.plot.cursor().shape(), Qt::CrossCursor);
         QTest::mouseMove(&s.plot, {102, 300});
         QTest::mouseRelease(&s.plot, Qt::LeftButton, Qt::NoModifier, {102, 300});
         QVERIFY(!s.plot.isRubberBandShown());
@@ -920,7 +924,8 @@ private slots:
     void aPressOutsideThePlotStartsNoBandAndItsReleaseDoesNothing()
     {
         Shown s;
-        const QPoint outside[] = {{24, 100}, {s.right() + 1, 100}, {100, 24}, {100, s.bottom() + 1}};
+        const QPoint outside[] = {
+            {24, 100}, {s.right() + 1, 100}, {100, 24}, {100, s.bottom() + 1}};
         for (QPoint p : outside) {
             QTest::mousePress(&s.plot, Qt::LeftButton, Qt::NoModifier, p);
             QVERIFY(!s.plot.isRubberBandShown());
@@ -966,10 +971,10 @@ private slots:
         QCOMPARE(s.plot.picture().cacheKey(), key);
         const QImage shown = s.plot.grab().toImage();
         const QColor light = role(s.plot, QPalette::Light);
-        QCOMPARE(at(shown, 300, 100), light);  // top edge
-        QCOMPARE(at(shown, 200, 200), light);  // left edge
-        QCOMPARE(at(shown, 300, 300), light);  // bottom edge
-        QCOMPARE(at(shown, 400, 200), light);  // right edge
+        QCOMPARE(at(shown, 300, 100), light); // top edge
+        QCOMPARE(at(shown, 200, 200), light); // left edge
+        QCOMPARE(at(shown, 300, 300), light); // bottom edge
+        QCOMPARE(at(shown, 400, 200), light); // right edge
         QVERIFY(at(s.image(), 300, 100) != light);
         QTest::mouseRelease(&s.plot, Qt::LeftButton, Qt::NoModifier, {400, 300});
     }
@@ -1102,6 +1107,66 @@ private slots:
         QCOMPARE(s.plot.settings().maxX, 60.0);
     }
 
+    // ---- legibility in the sun
+    void operatorSeesWhereTheyAre_labelsStandOutInTheSun()
+    {
+        Shown s;
+        double pmax = 0.0;
+        const QVector<QPointF> stc = moduleCurve(8.6, 37.6);
+        s.plot.setAxisX(0, 40);
+        s.plot.setAxisY(0, 10);
+        s.plot.setCurveData(0, moduleCurve(7.9, 36.2));
+        s.plot.setCurveData(1, stc);
+        s.plot.pmaxLabel = 250.0f;
+        s.plot.setCurveData(2, powerCurve(stc, &pmax));
+        s.plot.testResult = 1;
+        s.plot.setViewPassTest(true);
+        const QImage picture = grabScreen(&s.plot);
+        const QColor background = at(picture, Plotter::Margin + 40, Plotter::Margin + 40);
+
+        // the screens' own roles would give white on grey
+        const QPalette screens = QApplication::palette();
+        qInfo("with the screens' roles: %.2f:1 (%s on %s)",
+              contrastRatio(screens.color(QPalette::Light), screens.color(QPalette::Dark)),
+              qPrintable(screens.color(QPalette::Light).name()),
+              qPrintable(screens.color(QPalette::Dark).name()));
+
+        // the tick labels left of the grid: the strongest pixel of their digits
+        double labels = 1.0;
+        for (int y = Plotter::Margin; y < s.bottom(); ++y)
+            for (int x = 0; x < Plotter::Margin - 6; ++x)
+                labels = std::max(labels, contrastRatio(at(picture, x, y), background));
+        // the tick labels under the grid and the title, likewise
+        double under = 1.0;
+        for (int y = s.bottom() + 6; y < s.bottom() + 20; ++y)
+            for (int x = Plotter::Margin + 60; x < s.right(); ++x)
+                under = std::max(under, contrastRatio(at(picture, x, y), background));
+        double title = 1.0;
+        for (int y = 0; y < Plotter::Margin - 2; ++y)
+            for (int x = 40; x < s.plot.width() - 120; ++x)
+                title = std::max(title, contrastRatio(at(picture, x, y), background));
+        qInfo("labels %.2f:1, under the grid %.2f:1, title %.2f:1 (background %s)", labels, under,
+              title, qPrintable(background.name()));
+        QVERIFY2(labels >= 7.0, qPrintable(QString::number(labels)));
+        QVERIFY2(under >= 7.0, qPrintable(QString::number(under)));
+        QVERIFY2(title >= 7.0, qPrintable(QString::number(title)));
+
+        // the curves, found on the picture in their colours
+        const QRect inside(QPoint(Plotter::Margin + 1, Plotter::Margin + 1),
+                           QPoint(s.right() - 1, s.bottom() - 1));
+        for (const QColor& curve : {red, green}) {
+            QVERIFY(count(picture, inside, curve) > 50);
+            const double ratio = contrastRatio(curve, background);
+            qInfo("curve %s: %.2f:1", qPrintable(curve.name()), ratio);
+            QVERIFY2(ratio >= 3.0, qPrintable(curve.name()));
+        }
+        for (const QColor& curve : {yellow, magenta, blue, cyan})
+            qInfo("curve %s: %.2f:1", qPrintable(curve.name()), contrastRatio(curve, background));
+        // the verdict, green for both answers
+        const QRect verdict(QPoint(28, s.bottom() - 28), QPoint(400, s.bottom() + 17));
+        QVERIFY(count(picture, verdict, green) > 100);
+    }
+
     // ---- pictures for review
     void screenshotsOfTheTypicalViews()
     {
@@ -1146,19 +1211,6 @@ private slots:
         QStringList faults = legibilityFaults(&screen);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
         QVERIFY(!plot->drawnTextFonts().isEmpty());
-        // the contrast of the labels against the plot's background, measured
-        // on the picture: the tick labels left of the grid
-        {
-            const QImage picture = grabScreen(plot);
-            const QColor background(picture.pixel(Plotter::Margin + 40, Plotter::Margin + 40));
-            double strongest = 1.0;
-            for (int y = Plotter::Margin; y < plot->height() - 30; ++y)
-                for (int x = 0; x < Plotter::Margin - 6; ++x)
-                    strongest =
-                        std::max(strongest, contrastRatio(QColor(picture.pixel(x, y)), background));
-            qInfo("plot labels against the background: %.2f:1 (background %s)", strongest,
-                  qPrintable(background.name()));
-        }
         plot->testResult = 0;
         plot->refreshPixmap();
         QVERIFY(!saveScreenshot(&screen, "plotter-verdict-no").isEmpty());

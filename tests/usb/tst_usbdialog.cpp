@@ -6,6 +6,7 @@
 #include "platform/clock.h"
 #include "shell/language.h"
 #include "shell/orvia.h"
+#include "support/lookcheck.h"
 #include "support/modaldriver.h"
 #include "support/screenshot.h"
 #include "support/siminstrument.h"
@@ -37,6 +38,14 @@ QPushButton* button(QWidget* screen, const char* name)
     if (b == nullptr)
         qWarning("no button %s", name);
     return b;
+}
+
+// The screen drawn into build/screenshots, and what keeps an operator in the
+// sun from reading it (texts below 11 pixels or wider than their widgets).
+QString shotFaults(QWidget* screen, const char* name)
+{
+    saveScreenshot(screen, name);
+    return legibilityFaults(screen).join('\n');
 }
 
 void touch(QWidget* screen, const char* name)
@@ -215,7 +224,8 @@ private slots:
         QCOMPARE(button(&d, "Copia In")->text(), QString("Copia In..."));
         QVERIFY(!d.connected);
         QVERIFY(QTest::qWaitForWindowExposed(&d));
-        saveScreenshot(&d, "usb-screen");
+        const QString faults = shotFaults(&d, "usb-screen");
+        QVERIFY2(faults.isEmpty(), qPrintable(faults));
         touch(&d, "Exit");
         QCOMPARE(d.result(), int(QDialog::Rejected));
     }
@@ -395,7 +405,8 @@ private slots:
         touch(&d, "Apri");
         QCOMPARE(rows(&d), QStringList({"KRM510Data"})); // still in "backup"
         QVERIFY(QTest::qWaitForWindowExposed(&d));
-        saveScreenshot(&d, "usb-copy-from");
+        const QString faults = shotFaults(&d, "usb-copy-from");
+        QVERIFY2(faults.isEmpty(), qPrintable(faults));
     }
 
     void backDirAtTheBaseStaysThere()
@@ -533,7 +544,8 @@ private slots:
             touch(w, "Apri");
             pick(w, "krm510data");
             QVERIFY(QTest::qWaitForWindowExposed(w));
-            saveScreenshot(w, "usb-copy-from-krm510data");
+            const QString faults = shotFaults(w, "usb-copy-from-krm510data");
+            QVERIFY2(faults.isEmpty(), qPrintable(faults));
             confirmThenExit(w);
         });
         driver.answerBox();
@@ -564,7 +576,8 @@ private slots:
         QCOMPARE(rows(&d), QStringList({"Bianchi", "Rossi", "Verdi"}));
         QCOMPARE(d.findChild<QLabel*>("folder")->text(), QString("/Impianti 2024"));
         QVERIFY(QTest::qWaitForWindowExposed(&d));
-        saveScreenshot(&d, "usb-copy-to");
+        const QString faults = shotFaults(&d, "usb-copy-to");
+        QVERIFY2(faults.isEmpty(), qPrintable(faults));
     }
 
     void fileListShowsFilesWithBothWordsInAnyCaseOnly()
@@ -587,7 +600,8 @@ private slots:
         QVERIFY(button(&d, "Conferma")->isEnabled());
         QCOMPARE(d._fileName, QString("nuovo-upg-krm510.tar"));
         QVERIFY(QTest::qWaitForWindowExposed(&d));
-        saveScreenshot(&d, "usb-upgrade-files");
+        const QString faults = shotFaults(&d, "usb-upgrade-files");
+        QVERIFY2(faults.isEmpty(), qPrintable(faults));
     }
 
     void upgradeWithoutAStickDoesNotOpenTheFileList()
