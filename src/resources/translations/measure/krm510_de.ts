@@ -2,6 +2,94 @@
 <!DOCTYPE TS>
 <TS version="2.0" language="de_DE" sourcelanguage="it_IT">
 <context>
+    <name>DialogAmbiente</name>
+    <message>
+        <location filename="../../../measure/dialogambiente.cpp" line="+26"/>
+        <source>Temp. Cell.</source>
+        <translation>Zellentemp.</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>Misure Ambiente</source>
+        <translation>Umgebungsmessungen</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Temp. Mod.</source>
+        <translation>Modultemp.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Temp. Auto</source>
+        <translation>Temp. Auto</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Temp. Manuale</source>
+        <translation>Temp. Manuell</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Temp. Amb.</source>
+        <translation>Umgebungstemp.</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Irr.</source>
+        <translation>Einstr.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Annulla</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <location line="+40"/>
+        <location line="+31"/>
+        <location line="+15"/>
+        <location line="+2"/>
+        <source>Attivazione Collegamento.</source>
+        <translation>Verbindung wird aufgebaut.</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <location line="+4"/>
+        <source>Attivazione Collegamento..</source>
+        <translation>Verbindung wird aufgebaut..</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <location line="+38"/>
+        <source>Collegamento Remoto...</source>
+        <translation>Fernverbindung...</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <source>Collegamento Remoto.</source>
+        <translation>Fernverbindung.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Collegamento Remoto..</source>
+        <translation>Fernverbindung..</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Unità Remota</source>
+        <translation>Ferneinheit</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Non connessa o assente.</source>
+        <translation>Nicht verbunden oder nicht vorhanden.</translation>
+    </message>
+</context>
+<context>
     <name>DialogCollegamenti</name>
     <message>
         <location filename="../../../measure/dialogcollegamenti.cpp" line="+19"/>

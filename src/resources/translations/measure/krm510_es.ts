@@ -2,6 +2,94 @@
 <!DOCTYPE TS>
 <TS version="2.0" language="es_ES" sourcelanguage="it_IT">
 <context>
+    <name>DialogAmbiente</name>
+    <message>
+        <location filename="../../../measure/dialogambiente.cpp" line="+26"/>
+        <source>Temp. Cell.</source>
+        <translation>Temp. Célula</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>Misure Ambiente</source>
+        <translation>Medidas Ambiente</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Temp. Mod.</source>
+        <translation>Temp. Mód.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Temp. Auto</source>
+        <translation>Temp. Auto</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Temp. Manuale</source>
+        <translation>Temp. Manual</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Temp. Amb.</source>
+        <translation>Temp. Amb.</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Irr.</source>
+        <translation>Irr.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Annulla</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <location line="+40"/>
+        <location line="+31"/>
+        <location line="+15"/>
+        <location line="+2"/>
+        <source>Attivazione Collegamento.</source>
+        <translation>Activación Conexión.</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <location line="+4"/>
+        <source>Attivazione Collegamento..</source>
+        <translation>Activación Conexión..</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <location line="+38"/>
+        <source>Collegamento Remoto...</source>
+        <translation>Conexión Remota...</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <source>Collegamento Remoto.</source>
+        <translation>Conexión Remota.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Collegamento Remoto..</source>
+        <translation>Conexión Remota..</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Unità Remota</source>
+        <translation>Unidad Remota</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Non connessa o assente.</source>
+        <translation>No conectada o ausente.</translation>
+    </message>
+</context>
+<context>
     <name>DialogCollegamenti</name>
     <message>
         <location filename="../../../measure/dialogcollegamenti.cpp" line="+19"/>
