@@ -276,6 +276,149 @@
     </message>
 </context>
 <context>
+    <name>DialogRs</name>
+    <message>
+        <location filename="../../../measure/dialogrs.cpp" line="+49"/>
+        <location line="+21"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>ohm</source>
+        <translation>Ohm</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr.</source>
+        <translation>Einstr.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <source>Attivazione Collegamento..</source>
+        <translation>Verbindung wird aufgebaut..</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Verbindung wird aufgebaut...</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Collegamento Remoto...</source>
+        <translation>Fernverbindung...</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Irradiazione</source>
+        <translation>Einstrahlung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irradiazione troppo bassa.</source>
+        <translation>Einstrahlung zu niedrig.</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Irradiazione troppo alta.</source>
+        <translation>Einstrahlung zu hoch.</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Misura Modulo...</source>
+        <translation>Modulmessung...</translation>
+    </message>
+    <message>
+        <location line="+59"/>
+        <source>Tensione Eccessiva.</source>
+        <translation>Spannung zu hoch.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente Eccessiva.</source>
+        <translation>Strom zu hoch.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Potenza Eccessiva.</source>
+        <translation>Leistung zu hoch.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Energia Eccessiva.</source>
+        <translation>Energie zu hoch.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Polarità Inversa.</source>
+        <translation>Polarität vertauscht.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Negativo Flottante.</source>
+        <translation>Potentialfrei.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Tensione troppo bassa.</source>
+        <translation>Spannung zu niedrig.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente troppo bassa.</source>
+        <translation>Strom zu niedrig.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Attendere raffreddamento...
+Strumento surriscaldato.
+Attendere prima di riprendere i test.</source>
+        <translation>Abkühlung abwarten...
+Gerät überhitzt.
+Vor weiteren Tests bitte warten.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Problema di connessione al Power Device.</source>
+        <translation>Anschlussproblem an Power Device.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Power Device</source>
+        <translation>Power Device</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Misura Fase 1</source>
+        <translation>Messung Phase 1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Misura Fase 2</source>
+        <translation>Messung Phase 2</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Unità Remota</source>
+        <translation>Ferneinheit</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Non connessa o assente.</source>
+        <translation>Nicht verbunden oder nicht vorhanden.</translation>
+    </message>
+</context>
+<context>
     <name>DialogShutDown</name>
     <message>
         <location filename="../../../measure/dialogshutdown.cpp" line="+36"/>
@@ -291,6 +434,35 @@
         <location line="+1"/>
         <source>Ricaricare la batteria.</source>
         <translation>Laden Sie den Akku bitte.</translation>
+    </message>
+</context>
+<context>
+    <name>DialogViewRs</name>
+    <message>
+        <location filename="../../../measure/dialogviewrs.cpp" line="+12"/>
+        <location line="+3"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>ohm</source>
+        <translation>Ohm</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr. 1</source>
+        <translation>Einstr. 1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr. 2</source>
+        <translation>Einstr. 2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>

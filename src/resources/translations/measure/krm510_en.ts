@@ -276,6 +276,149 @@
     </message>
 </context>
 <context>
+    <name>DialogRs</name>
+    <message>
+        <location filename="../../../measure/dialogrs.cpp" line="+49"/>
+        <location line="+21"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>ohm</source>
+        <translation>ohm</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr.</source>
+        <translation>Irr.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <source>Attivazione Collegamento..</source>
+        <translation>Activating Link..</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Activating link...</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Collegamento Remoto...</source>
+        <translation>Remote Link...</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Irradiazione</source>
+        <translation>Radiation</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irradiazione troppo bassa.</source>
+        <translation>Radiation value too low.</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Irradiazione troppo alta.</source>
+        <translation>Radiation value too high.</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Misura Modulo...</source>
+        <translation>Module measure...</translation>
+    </message>
+    <message>
+        <location line="+59"/>
+        <source>Tensione Eccessiva.</source>
+        <translation>Excessive voltage value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente Eccessiva.</source>
+        <translation>Excessive current value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Potenza Eccessiva.</source>
+        <translation>Excessive power value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Energia Eccessiva.</source>
+        <translation>Excessive energy value.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Polarità Inversa.</source>
+        <translation>Reverse polarity.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Negativo Flottante.</source>
+        <translation>Floating negative.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Tensione troppo bassa.</source>
+        <translation>Voltage too low.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente troppo bassa.</source>
+        <translation>Current too low.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Attendere raffreddamento...
+Strumento surriscaldato.
+Attendere prima di riprendere i test.</source>
+        <translation>Wait for cooling...
+Instrument overheated.
+Wait before resuming the tests.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Problema di connessione al Power Device.</source>
+        <translation>Problem of wiring to the power device.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Power Device</source>
+        <translation>Power Device</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Misura Fase 1</source>
+        <translation>Measure Phase 1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Misura Fase 2</source>
+        <translation>Measure Phase 2</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Unità Remota</source>
+        <translation>Remote Unit</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Non connessa o assente.</source>
+        <translation>Not connected or missing.</translation>
+    </message>
+</context>
+<context>
     <name>DialogShutDown</name>
     <message>
         <location filename="../../../measure/dialogshutdown.cpp" line="+36"/>
@@ -291,6 +434,35 @@
         <location line="+1"/>
         <source>Ricaricare la batteria.</source>
         <translation>Recharge the battery.</translation>
+    </message>
+</context>
+<context>
+    <name>DialogViewRs</name>
+    <message>
+        <location filename="../../../measure/dialogviewrs.cpp" line="+12"/>
+        <location line="+3"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>ohm</source>
+        <translation>ohm</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr. 1</source>
+        <translation>Irr. 1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr. 2</source>
+        <translation>Irr. 2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>

@@ -276,6 +276,149 @@
     </message>
 </context>
 <context>
+    <name>DialogRs</name>
+    <message>
+        <location filename="../../../measure/dialogrs.cpp" line="+49"/>
+        <location line="+21"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>ohm</source>
+        <translation>ohm</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr.</source>
+        <translation>Irr.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <source>Attivazione Collegamento..</source>
+        <translation>Activación Conexión..</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Activando conexión...</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Collegamento Remoto...</source>
+        <translation>Conexión Remota...</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Irradiazione</source>
+        <translation>Irradiación</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irradiazione troppo bassa.</source>
+        <translation>Irradiación demasiado baja.</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Irradiazione troppo alta.</source>
+        <translation>Irradiación demasiado alta.</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Misura Modulo...</source>
+        <translation>Medida módulo...</translation>
+    </message>
+    <message>
+        <location line="+59"/>
+        <source>Tensione Eccessiva.</source>
+        <translation>Valor de tensión excesivo.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente Eccessiva.</source>
+        <translation>Valor excesivo de corriente.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Potenza Eccessiva.</source>
+        <translation>Valor excesivo de potencia.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Energia Eccessiva.</source>
+        <translation>Valor excesivo de energía.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Polarità Inversa.</source>
+        <translation>Polaridad invertida.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Negativo Flottante.</source>
+        <translation>Negativo flotante.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Tensione troppo bassa.</source>
+        <translation>Tension demasiado baja.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente troppo bassa.</source>
+        <translation>Corriente demasiado baja.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Attendere raffreddamento...
+Strumento surriscaldato.
+Attendere prima di riprendere i test.</source>
+        <translation>Esperar el enfriamiento...
+Instrumento sobrecalentado.
+Esperar antes de reanudar las pruebas.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Problema di connessione al Power Device.</source>
+        <translation>Problema de conexión con el módulo de Potencia.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Power Device</source>
+        <translation>Power Device</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Misura Fase 1</source>
+        <translation>Medida Fase 1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Misura Fase 2</source>
+        <translation>Medida Fase 2</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Unità Remota</source>
+        <translation>Unidad remota</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Non connessa o assente.</source>
+        <translation>No conectada o ausente.</translation>
+    </message>
+</context>
+<context>
     <name>DialogShutDown</name>
     <message>
         <location filename="../../../measure/dialogshutdown.cpp" line="+36"/>
@@ -291,6 +434,35 @@
         <location line="+1"/>
         <source>Ricaricare la batteria.</source>
         <translation>Recargar batería.</translation>
+    </message>
+</context>
+<context>
+    <name>DialogViewRs</name>
+    <message>
+        <location filename="../../../measure/dialogviewrs.cpp" line="+12"/>
+        <location line="+3"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>ohm</source>
+        <translation>ohm</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr. 1</source>
+        <translation>Irr. 1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr. 2</source>
+        <translation>Irr. 2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
