@@ -272,12 +272,13 @@ void DialogAmbiente::exitDialog()
 
 void DialogAmbiente::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return && (_buttonOk->hasFocus() || _buttonCancel->hasFocus())) {
+    if (event->key() == Qt::Key_Return &&
+        (focusWidget() == _buttonOk || focusWidget() == _buttonCancel)) {
         exitDialog();
     } else if (event->key() == Qt::Key_Escape) {
         exitDialog();
     } else if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) {
-        if (_buttonOk->hasFocus())
+        if (focusWidget() == _buttonOk)
             _buttonCancel->setFocus();
         else
             _buttonOk->setFocus();

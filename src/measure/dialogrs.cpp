@@ -356,19 +356,19 @@ void DialogRs::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
     case Qt::Key_Return:
-        if (_buttonExit->hasFocus())
+        if (focusWidget() == _buttonExit)
             exitDialog();
-        else if (_buttonMeasure->hasFocus())
+        else if (focusWidget() == _buttonMeasure)
             acquisizioneMisura();
-        else if (_buttonReset->hasFocus())
+        else if (focusWidget() == _buttonReset)
             resetAll();
         break;
     case Qt::Key_Up:
     case Qt::Key_Down:
         // the reset button is reached by touch alone
-        if (_buttonExit->hasFocus() || _buttonReset->hasFocus())
+        if (focusWidget() == _buttonExit || focusWidget() == _buttonReset)
             _buttonMeasure->setFocus();
-        else if (_buttonMeasure->hasFocus())
+        else if (focusWidget() == _buttonMeasure)
             _buttonExit->setFocus();
         break;
     case Qt::Key_Escape:

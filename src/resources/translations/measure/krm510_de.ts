@@ -468,7 +468,7 @@ Vor weiteren Tests bitte warten.</translation>
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+69"/>
+        <location filename="../../../measure/panelIV.cpp" line="+72"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -498,7 +498,23 @@ Vor weiteren Tests bitte warten.</translation>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+29"/>
+        <location line="+25"/>
+        <source>Calcolo</source>
+        <translation>Berechnung</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+5"/>
+        <source>Misurato</source>
+        <translation>Gemessen</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Attuale</source>
+        <translation>Aktuell</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>Modulo</source>
         <translation>Modul</translation>
     </message>
@@ -518,7 +534,17 @@ Vor weiteren Tests bitte warten.</translation>
         <translation>Leistung</translation>
     </message>
     <message>
-        <location line="+54"/>
+        <location line="+5"/>
+        <source>Ambiente</source>
+        <translation>Umgebung</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+62"/>
         <source>Misura Modulo...</source>
         <translation>Modulmessung...</translation>
     </message>
@@ -592,7 +618,7 @@ Vor weiteren Tests bitte warten.</translation>
         <translation>Anschlussproblem an Power Device.</translation>
     </message>
     <message>
-        <location line="+22"/>
+        <location line="+26"/>
         <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Umgebungsmessung</translation>
@@ -639,7 +665,7 @@ Vor weiteren Tests bitte warten.</translation>
         <translation>Einstrahlung zu niedrig (&lt; </translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+22"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Einstrahlung sehr variabel</translation>
     </message>
@@ -656,7 +682,7 @@ Bitte wiederholen.</translation>
         <translation>Temperatur von Grenzen.</translation>
     </message>
     <message>
-        <location line="+120"/>
+        <location line="+157"/>
         <source>Misura Salvata.</source>
         <translation>Messung gespeichert.</translation>
     </message>
@@ -723,7 +749,7 @@ Bitte wiederholen.</translation>
 <context>
     <name>StringIV</name>
     <message>
-        <location filename="../../../measure/stringIV.cpp" line="+70"/>
+        <location filename="../../../measure/stringIV.cpp" line="+71"/>
         <source>String IV</source>
         <translation>String IV</translation>
     </message>
@@ -753,7 +779,17 @@ Bitte wiederholen.</translation>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+25"/>
+        <source>Attuale</source>
+        <translation>Aktuell</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Misurato</source>
+        <translation>Gemessen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Stringa</source>
         <translation>String</translation>
     </message>
@@ -773,7 +809,12 @@ Bitte wiederholen.</translation>
         <translation>Leistung</translation>
     </message>
     <message>
-        <location line="+54"/>
+        <location line="+5"/>
+        <source>Ambiente</source>
+        <translation>Umgebung</translation>
+    </message>
+    <message>
+        <location line="+58"/>
         <source>Misura Stringa...</source>
         <translation>Stringmessung...</translation>
     </message>
@@ -847,7 +888,7 @@ Vor weiteren Tests bitte warten.</translation>
         <translation>Anschlussproblem an Power Device.</translation>
     </message>
     <message>
-        <location line="+23"/>
+        <location line="+25"/>
         <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Umgebungsmessung</translation>
@@ -894,7 +935,7 @@ Vor weiteren Tests bitte warten.</translation>
         <translation>Einstrahlung zu niedrig (&lt; </translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="+21"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Einstrahlung sehr variabel</translation>
     </message>
@@ -911,7 +952,7 @@ Bitte wiederholen.</translation>
         <translation>Temperatur von Grenzen.</translation>
     </message>
     <message>
-        <location line="+123"/>
+        <location line="+138"/>
         <source>Misura Salvata.</source>
         <translation>Messung gespeichert.</translation>
     </message>

@@ -468,7 +468,7 @@ Wait before resuming the tests.</translation>
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+69"/>
+        <location filename="../../../measure/panelIV.cpp" line="+72"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -498,7 +498,23 @@ Wait before resuming the tests.</translation>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+29"/>
+        <location line="+25"/>
+        <source>Calcolo</source>
+        <translation>Calculation</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+5"/>
+        <source>Misurato</source>
+        <translation>Measured</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Attuale</source>
+        <translation>Current</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>Modulo</source>
         <translation>Module</translation>
     </message>
@@ -518,7 +534,17 @@ Wait before resuming the tests.</translation>
         <translation>Power</translation>
     </message>
     <message>
-        <location line="+54"/>
+        <location line="+5"/>
+        <source>Ambiente</source>
+        <translation>Environment</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+62"/>
         <source>Misura Modulo...</source>
         <translation>Module measure...</translation>
     </message>
@@ -592,7 +618,7 @@ Wait before resuming the tests.</translation>
         <translation>Problem of wiring to the power device.</translation>
     </message>
     <message>
-        <location line="+22"/>
+        <location line="+26"/>
         <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Environment measures</translation>
@@ -639,7 +665,7 @@ Wait before resuming the tests.</translation>
         <translation>Insufficient irradiance (&lt; </translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+22"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Highly variable solar radiation</translation>
     </message>
@@ -656,7 +682,7 @@ Repeat.</translation>
         <translation>Outside temperature limit.</translation>
     </message>
     <message>
-        <location line="+120"/>
+        <location line="+157"/>
         <source>Misura Salvata.</source>
         <translation>Saved measure.</translation>
     </message>
@@ -723,7 +749,7 @@ Repeat.</translation>
 <context>
     <name>StringIV</name>
     <message>
-        <location filename="../../../measure/stringIV.cpp" line="+70"/>
+        <location filename="../../../measure/stringIV.cpp" line="+71"/>
         <source>String IV</source>
         <translation>String IV</translation>
     </message>
@@ -753,7 +779,17 @@ Repeat.</translation>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+25"/>
+        <source>Attuale</source>
+        <translation>Current</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Misurato</source>
+        <translation>Measured</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Stringa</source>
         <translation>String</translation>
     </message>
@@ -773,7 +809,12 @@ Repeat.</translation>
         <translation>Power</translation>
     </message>
     <message>
-        <location line="+54"/>
+        <location line="+5"/>
+        <source>Ambiente</source>
+        <translation>Environment</translation>
+    </message>
+    <message>
+        <location line="+58"/>
         <source>Misura Stringa...</source>
         <translation>String measure...</translation>
     </message>
@@ -847,7 +888,7 @@ Wait before resuming the tests.</translation>
         <translation>Problem of wiring to the power device.</translation>
     </message>
     <message>
-        <location line="+23"/>
+        <location line="+25"/>
         <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Environment measures</translation>
@@ -894,7 +935,7 @@ Wait before resuming the tests.</translation>
         <translation>Insufficient irradiance (&lt; </translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="+21"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Highly variable solar radiation</translation>
     </message>
@@ -911,7 +952,7 @@ Repeat.</translation>
         <translation>Outside temperature limit.</translation>
     </message>
     <message>
-        <location line="+123"/>
+        <location line="+138"/>
         <source>Misura Salvata.</source>
         <translation>Saved measure.</translation>
     </message>

@@ -468,7 +468,7 @@ Attendre avant de reprendre les tests.</translation>
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+69"/>
+        <location filename="../../../measure/panelIV.cpp" line="+72"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -498,7 +498,23 @@ Attendre avant de reprendre les tests.</translation>
         <translation>Sortie</translation>
     </message>
     <message>
-        <location line="+29"/>
+        <location line="+25"/>
+        <source>Calcolo</source>
+        <translation>Calcul</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+5"/>
+        <source>Misurato</source>
+        <translation>Mesuré</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Attuale</source>
+        <translation>Actuel</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>Modulo</source>
         <translation>Module</translation>
     </message>
@@ -518,7 +534,17 @@ Attendre avant de reprendre les tests.</translation>
         <translation>Puissance</translation>
     </message>
     <message>
-        <location line="+54"/>
+        <location line="+5"/>
+        <source>Ambiente</source>
+        <translation>Environnement</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+62"/>
         <source>Misura Modulo...</source>
         <translation>Mesure module...</translation>
     </message>
@@ -592,7 +618,7 @@ Attendre avant de reprendre les tests.</translation>
         <translation>Problème de connection à l&apos;appareil de puissance.</translation>
     </message>
     <message>
-        <location line="+22"/>
+        <location line="+26"/>
         <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Acquisition mesures ambiantes</translation>
@@ -639,7 +665,7 @@ Attendre avant de reprendre les tests.</translation>
         <translation>Ensoleillement insuffisant (&lt; </translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+22"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Fort variation du valeur d&apos;ensoleillement</translation>
     </message>
@@ -656,7 +682,7 @@ Repeter le test.</translation>
         <translation>Température hors limite.</translation>
     </message>
     <message>
-        <location line="+120"/>
+        <location line="+157"/>
         <source>Misura Salvata.</source>
         <translation>Mesure sauvegardée.</translation>
     </message>
@@ -723,7 +749,7 @@ Repeter le test.</translation>
 <context>
     <name>StringIV</name>
     <message>
-        <location filename="../../../measure/stringIV.cpp" line="+70"/>
+        <location filename="../../../measure/stringIV.cpp" line="+71"/>
         <source>String IV</source>
         <translation>String IV</translation>
     </message>
@@ -753,7 +779,17 @@ Repeter le test.</translation>
         <translation>Sortie</translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+25"/>
+        <source>Attuale</source>
+        <translation>Actuel</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Misurato</source>
+        <translation>Mesuré</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Stringa</source>
         <translation>Chaine</translation>
     </message>
@@ -773,7 +809,12 @@ Repeter le test.</translation>
         <translation>Puissance</translation>
     </message>
     <message>
-        <location line="+54"/>
+        <location line="+5"/>
+        <source>Ambiente</source>
+        <translation>Environnement</translation>
+    </message>
+    <message>
+        <location line="+58"/>
         <source>Misura Stringa...</source>
         <translation>Mesure chaine...</translation>
     </message>
@@ -847,7 +888,7 @@ Attendre avant de reprendre les tests.</translation>
         <translation>Problème de connection à l&apos;appareil de puissance.</translation>
     </message>
     <message>
-        <location line="+23"/>
+        <location line="+25"/>
         <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Acquisition mesures ambiantes</translation>
@@ -894,7 +935,7 @@ Attendre avant de reprendre les tests.</translation>
         <translation>Ensoleillement insuffisant (&lt; </translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="+21"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Fort variation du valeur d&apos;ensoleillement</translation>
     </message>
@@ -911,7 +952,7 @@ Repeter le test.</translation>
         <translation>Température hors limite.</translation>
     </message>
     <message>
-        <location line="+123"/>
+        <location line="+138"/>
         <source>Misura Salvata.</source>
         <translation>Mesure sauvegardée.</translation>
     </message>
