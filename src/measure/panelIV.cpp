@@ -14,10 +14,13 @@
 #include "math/scale.h"
 #include "math/temperatura.h"
 #include "math/utility.h"
+#include "measure/dialogambiente.h"
 #include "measure/dialogdatielettrici.h"
 #include "measure/dialogdegrado.h"
 #include "measure/dialoginfo.h"
+#include "measure/dialogrs.h"
 #include "measure/dialogshutdown.h"
+#include "measure/dialogviewrs.h"
 #include "measure/refpanel.h"
 #include "measure/testscreen.h"
 #include "platform/clock.h"
@@ -114,10 +117,16 @@ PanelIV::PanelIV(QWidget* parent)
     box->addWidget(_plotter);
     box->addWidget(bar);
 
-    // The series resistance ("Rs": "Calcolo", "Misurato") and environment
-    // ("Ambiente": "Attuale", "Misurato") entries of the measures menu join it
-    // when their screens exist; until then the menu holds only what a good
-    // measure adds.
+    _actionRsCalc = new QAction(tr("Calcolo"), this);
+    _actionRsCalc->setObjectName("RsCalcolo");
+    _actionRsView = new QAction(tr("Misurato"), this);
+    _actionRsView->setObjectName("RsMisurato");
+    _actionRsView->setEnabled(false);
+    _actionEnvNow = new QAction(tr("Attuale"), this);
+    _actionEnvNow->setObjectName("AmbienteAttuale");
+    _actionEnvAtMeasure = new QAction(tr("Misurato"), this);
+    _actionEnvAtMeasure->setObjectName("AmbienteMisurato");
+    _actionEnvAtMeasure->setEnabled(false);
     _actionPanelData = new QAction(tr("Modulo"), this);
     _actionPanelData->setObjectName("Modulo");
     _actionPowerOpc = new QAction(tr("Potenza OPC"), this);
@@ -131,14 +140,32 @@ PanelIV::PanelIV(QWidget* parent)
     _menuPower->addAction(_actionPowerOpc);
     _menuPower->addSeparator();
     _menuPower->addAction(_actionPowerStc);
+    _menuEnv = new QMenu(tr("Ambiente"), this);
+    _menuEnv->setObjectName("Ambiente");
+    _menuEnv->addAction(_actionEnvNow);
+    _menuEnv->addSeparator();
+    _menuEnv->addAction(_actionEnvAtMeasure);
+    _menuRs = new QMenu(tr("Rs"), this);
+    _menuRs->setObjectName("Rs");
+    _menuRs->addAction(_actionRsCalc);
+    _menuRs->addSeparator();
+    _menuRs->addAction(_actionRsView);
     _menuMeasures = new QMenu(this);
     _menuMeasures->setObjectName("MenuMisure");
+    _menuMeasures->addMenu(_menuRs);
+    _menuMeasures->addSeparator();
+    _menuMeasures->addMenu(_menuEnv);
     _buttonMeasures->setMenu(_menuMeasures);
 
     connect(_buttonStart, &QPushButton::clicked, this, &PanelIV::measurePanel);
     connect(_buttonReference, &QPushButton::clicked, this, &PanelIV::goToReferencePanel);
+    connect(_buttonMeasures, &QPushButton::clicked, this, &PanelIV::goToEnvMea);
     connect(_buttonSave, &QPushButton::clicked, this, &PanelIV::goToSavePanelAcquired);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
+    connect(_actionRsCalc, &QAction::triggered, this, &PanelIV::goToRsMea);
+    connect(_actionRsView, &QAction::triggered, this, &PanelIV::goToRsMisurato);
+    connect(_actionEnvNow, &QAction::triggered, this, &PanelIV::goToEnvMea);
+    connect(_actionEnvAtMeasure, &QAction::triggered, this, &PanelIV::displayEnvMeaAtMeasure);
     connect(_actionPanelData, &QAction::triggered, this, &PanelIV::goToPanelMea);
     connect(_actionPowerOpc, &QAction::triggered, this, &PanelIV::displayPowerCurveOPC);
     connect(_actionPowerStc, &QAction::triggered, this, &PanelIV::displayPowerCurveSTC);
@@ -327,6 +354,10 @@ void PanelIV::failMeasure(QMessageBox* box, _pdError error)
     _measureDone = false;
     _buttonSave->setEnabled(false);
     _menuMeasures->clear();
+    _menuMeasures->addMenu(_menuRs);
+    _menuMeasures->addSeparator();
+    _menuMeasures->addMenu(_menuEnv);
+    _actionEnvAtMeasure->setEnabled(false);
     _stcValid = false;
     _powerStcShown = false;
     _powerOpcShown = false;
@@ -417,9 +448,11 @@ int PanelIV::getProbeVar(bool showProgress)
         box.setText(tr("Irraggiamento insufficiente (< ") + storedNumberText(_config.irrmin, 2) +
                     " W/m²)");
     } else {
+        _actionEnvAtMeasure->setEnabled(true);
         return 0;
     }
     box.exec();
+    _actionEnvAtMeasure->setEnabled(false);
     return 1;
 }
 
@@ -587,6 +620,43 @@ void PanelIV::goToPanelMea()
     delete dialog;
 }
 
+void PanelIV::goToEnvMea()
+{
+    DialogAmbiente* dialog = liveEnvironment(this, _config);
+    dialog->exec();
+    delete dialog;
+}
+
+void PanelIV::displayEnvMeaAtMeasure()
+{
+    DialogAmbiente* dialog = measuredEnvironment(this, _config, &_temperature, _irradiance,
+                                                 _referenceChosen, &_reference);
+    dialog->exec();
+    delete dialog;
+}
+
+void PanelIV::goToRsMea()
+{
+    DialogRs* dialog = new DialogRs(this);
+    dialog->exec();
+    // the result counts whatever way the dialog was left
+    if (dialog->_done) {
+        _rs = dialog->_rs;
+        _rsI1 = dialog->_irr1;
+        _rsI2 = dialog->_irr2;
+        _rsDone = true;
+        _actionRsView->setEnabled(true);
+    }
+    delete dialog;
+}
+
+void PanelIV::goToRsMisurato()
+{
+    DialogViewRs* dialog = new DialogViewRs(this, _rs, _rsI1, _rsI2);
+    dialog->exec();
+    delete dialog;
+}
+
 void PanelIV::goToSavePanelAcquired()
 {
     QMessageBox* box =
@@ -712,9 +782,19 @@ void PanelIV::keyPressEvent(QKeyEvent* event)
             measurePanel();
         else if (focused(_buttonReference))
             goToReferencePanel();
+        else if (focused(_buttonMeasures))
+            goToEnvMea();
         else if (focused(_buttonSave))
             goToSavePanelAcquired();
         // never checkable: these tests do nothing, as on the instrument
+        if (_actionRsCalc->isChecked())
+            goToRsMea();
+        if (_actionRsView->isChecked())
+            goToRsMisurato();
+        if (_actionEnvNow->isChecked())
+            goToEnvMea();
+        if (_actionEnvAtMeasure->isChecked())
+            displayEnvMeaAtMeasure();
         if (_actionPanelData->isChecked())
             goToPanelMea();
         if (_actionPowerOpc->isChecked())

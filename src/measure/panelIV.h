@@ -74,11 +74,15 @@ public slots:
     void measurePanel();
     void goToReferencePanel();
     void goToSavePanelAcquired();
+    void goToEnvMea();
     void goToPanelMea();
+    void goToRsMea();
     void displayClock();
     void displayPowerSupply();
     void displayPowerCurveOPC();
     void displayPowerCurveSTC();
+    void goToRsMisurato();
+    void displayEnvMeaAtMeasure();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -104,10 +108,16 @@ private:
     QPushButton* _buttonExit;
     QLabel* _labelSupply;
     QLabel* _labelClock;
+    QAction* _actionRsCalc;
+    QAction* _actionRsView;
+    QAction* _actionEnvNow;
+    QAction* _actionEnvAtMeasure;
     QAction* _actionPanelData;
     QAction* _actionPowerOpc;
     QAction* _actionPowerStc;
     QMenu* _menuPower;
+    QMenu* _menuEnv;
+    QMenu* _menuRs;
     QMenu* _menuMeasures;
     QTimer* _timerClock;
     QTimer* _timerSupply;

@@ -14,6 +14,7 @@
 #include "math/scale.h"
 #include "math/temperatura.h"
 #include "math/utility.h"
+#include "measure/dialogambiente.h"
 #include "measure/dialogdatielettrici.h"
 #include "measure/dialogdegrado.h"
 #include "measure/dialoginfo.h"
@@ -115,9 +116,11 @@ StringIV::StringIV(QWidget* parent)
     box->addWidget(_plotter);
     box->addWidget(bar);
 
-    // The environment entries ("Ambiente": "Attuale", "Misurato") join the
-    // measures menu when their screen exists; until then the menu holds only
-    // what a good measure adds, and Return on "Misure" opens nothing.
+    _actionEnvNow = new QAction(tr("Attuale"), this);
+    _actionEnvNow->setObjectName("AmbienteAttuale");
+    _actionEnvAtMeasure = new QAction(tr("Misurato"), this);
+    _actionEnvAtMeasure->setObjectName("AmbienteMisurato");
+    _actionEnvAtMeasure->setEnabled(false);
     _actionPanelData = new QAction(tr("Stringa"), this);
     _actionPanelData->setObjectName("Stringa");
     _actionPowerOpc = new QAction(tr("Potenza OPC"), this);
@@ -131,14 +134,23 @@ StringIV::StringIV(QWidget* parent)
     _menuPower->addAction(_actionPowerOpc);
     _menuPower->addSeparator();
     _menuPower->addAction(_actionPowerStc);
+    _menuEnv = new QMenu(tr("Ambiente"), this);
+    _menuEnv->setObjectName("Ambiente");
+    _menuEnv->addAction(_actionEnvNow);
+    _menuEnv->addSeparator();
+    _menuEnv->addAction(_actionEnvAtMeasure);
     _menuMeasures = new QMenu(this);
     _menuMeasures->setObjectName("MenuMisure");
+    _menuMeasures->addMenu(_menuEnv);
     _buttonMeasures->setMenu(_menuMeasures);
 
     connect(_buttonStart, &QPushButton::clicked, this, &StringIV::stringMeasure);
     connect(_buttonReference, &QPushButton::clicked, this, &StringIV::goToReferencePanel);
+    connect(_buttonMeasures, &QPushButton::clicked, this, &StringIV::goToEnvMea);
     connect(_buttonSave, &QPushButton::clicked, this, &StringIV::goToSaveStringAcquired);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
+    connect(_actionEnvNow, &QAction::triggered, this, &StringIV::goToEnvMea);
+    connect(_actionEnvAtMeasure, &QAction::triggered, this, &StringIV::displayEnvMeaAtMeasure);
     connect(_actionPanelData, &QAction::triggered, this, &StringIV::goToStringMea);
     connect(_actionPowerOpc, &QAction::triggered, this, &StringIV::displayPowerCurveOPC);
     connect(_actionPowerStc, &QAction::triggered, this, &StringIV::displayPowerCurveSTC);
@@ -347,6 +359,8 @@ void StringIV::failMeasure(QMessageBox* box, _pdError error)
     _measureDone = false;
     _buttonSave->setEnabled(false);
     _menuMeasures->clear();
+    _menuMeasures->addMenu(_menuEnv);
+    _actionEnvAtMeasure->setEnabled(false);
     _stcValid = false;
     _powerStcShown = false;
     _powerOpcShown = false;
@@ -438,9 +452,11 @@ int StringIV::getProbeVar(bool showProgress)
         box.setText(tr("Irraggiamento insufficiente (< ") + storedNumberText(_config.irrmin, 2) +
                     " W/m²)");
     } else {
+        _actionEnvAtMeasure->setEnabled(true);
         return 0;
     }
     box.exec();
+    _actionEnvAtMeasure->setEnabled(false);
     return 1;
 }
 
@@ -600,6 +616,21 @@ void StringIV::goToReferencePanel()
     checkPanelOk();
 }
 
+void StringIV::goToEnvMea()
+{
+    DialogAmbiente* dialog = liveEnvironment(this, _config);
+    dialog->exec();
+    delete dialog;
+}
+
+void StringIV::displayEnvMeaAtMeasure()
+{
+    DialogAmbiente* dialog = measuredEnvironment(this, _config, &_temperature, _irradiance,
+                                                 _referenceChosen, &_reference);
+    dialog->exec();
+    delete dialog;
+}
+
 void StringIV::goToStringMea()
 {
     const bool stc = _stcValid ? _referenceChosen : false;
@@ -724,6 +755,10 @@ void StringIV::keyPressEvent(QKeyEvent* event)
         break;
     case Qt::Key_Return: {
         // never checkable: these tests do nothing, as on the instrument
+        if (_actionEnvNow->isChecked())
+            goToEnvMea();
+        if (_actionEnvAtMeasure->isChecked())
+            displayEnvMeaAtMeasure();
         if (_actionPanelData->isChecked())
             goToStringMea();
         if (_actionPowerOpc->isChecked())
@@ -733,7 +768,6 @@ void StringIV::keyPressEvent(QKeyEvent* event)
         // The screen's own focus widget: keys come from the key poller whether
         // or not the window has been made active again after a dialog closed.
         // "Salva" is tested once: a rejected save form does not reopen.
-        // "Misure" opens the environment screen, which is not there yet.
         QWidget* focus = focusWidget();
         if (focus == _buttonStart)
             stringMeasure();
@@ -743,6 +777,8 @@ void StringIV::keyPressEvent(QKeyEvent* event)
             goToReferencePanel();
         else if (focus == _buttonSave)
             goToSaveStringAcquired();
+        else if (focus == _buttonMeasures)
+            goToEnvMea();
         break;
     }
     case Qt::Key_Down:

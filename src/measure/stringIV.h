@@ -79,11 +79,13 @@ public slots:
     void stringMeasure();
     void goToReferencePanel();
     void goToSaveStringAcquired();
+    void goToEnvMea();
     void goToStringMea();
     void displayClock();
     void displayPowerSupply();
     void displayPowerCurveOPC();
     void displayPowerCurveSTC();
+    void displayEnvMeaAtMeasure();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -109,10 +111,13 @@ private:
     QPushButton* _buttonExit;
     QLabel* _labelSupply;
     QLabel* _labelClock;
+    QAction* _actionEnvNow;
+    QAction* _actionEnvAtMeasure;
     QAction* _actionPanelData;
     QAction* _actionPowerOpc;
     QAction* _actionPowerStc;
     QMenu* _menuPower;
+    QMenu* _menuEnv;
     QMenu* _menuMeasures;
     QTimer* _timerClock;
     QTimer* _timerSupply;

@@ -3,7 +3,9 @@
 #include "data/coredata.h"
 #include "device/ad7795.h"
 #include "device/remoteunit.h"
+#include "math/temperatura.h"
 #include "math/utility.h"
+#include "measure/dialogambiente.h"
 #include "platform/clock.h"
 
 #include <QProgressDialog>
@@ -140,4 +142,37 @@ QVector<QPointF> powerPoints(const _ramp_iv* curve)
     for (int k = 0; k < RAMP_POINTS; k++)
         points.append(QPointF(curve->tensione[k], y[k]));
     return points;
+}
+
+DialogAmbiente* liveEnvironment(QWidget* parent, const _configParam& config)
+{
+    const bool ambient = config.tprobe == PROBE_AMBIENT;
+    const float gain = ambient ? config.tmenv : config.tmmod;
+    const float offset = ambient ? config.toenv : config.tomod;
+    const float typed = config.tprobe == PROBE_MANUAL ? config.utemp : 0.0f;
+    return new DialogAmbiente(parent, true, config.tprobe, config.remote, typed, 0, gain, offset,
+                              false);
+}
+
+DialogAmbiente* measuredEnvironment(QWidget* parent, const _configParam& config, float* temperature,
+                                    float irradiance, bool referenceChosen,
+                                    const _panelFeature* reference)
+{
+    float shown = *temperature;
+    _probeTemp mode = config.tprobe;
+    switch (config.tprobe) {
+    case PROBE_AUTO:
+    case PROBE_MODULE:
+        break;
+    case PROBE_MANUAL:
+        *temperature = config.utemp;
+        break;
+    default:
+        mode = PROBE_AMBIENT;
+        if (referenceChosen)
+            shown = calcola_temperatura_ambiente_da_modulo(*temperature, irradiance, reference);
+        break;
+    }
+    return new DialogAmbiente(parent, false, mode, LINK_LOCAL, shown, irradiance, 0, 0,
+                              referenceChosen);
 }

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QVector>
 
+class DialogAmbiente;
 class QProgressDialog;
 class QPushButton;
 class QWidget;
@@ -43,6 +44,22 @@ void showConversion(void* context, int k);
 void readProbeRounds(const _configParam* config, int rounds, int first, QProgressDialog* progress,
                      RemoteUnit* unit, float* temperature, bool* temperatureValid,
                      float* irradiance, bool* irradianceValid);
+
+// The live environment screen of the "Misure" button and of "Ambiente" /
+// "Attuale": the configured probe and link; the ambient probe's slope and
+// offset for the ambient mode, the module probe's for every other; the typed
+// temperature in the manual mode, else 0.
+DialogAmbiente* liveEnvironment(QWidget* parent, const _configParam& config);
+// The still environment screen of "Ambiente" / "Misurato": the readings of the
+// measure. The automatic and module modes hand over the measure's
+// temperature; the manual mode hands over the measure's temperature and then
+// sets it to the typed one (so a measure made before a change of the typed
+// value shows the old value once); the ambient mode, and any unknown one,
+// shows with a reference module the ambient temperature computed back from
+// the module's, else the measure's own. Unknown modes are shown as ambient.
+DialogAmbiente* measuredEnvironment(QWidget* parent, const _configParam& config, float* temperature,
+                                    float irradiance, bool referenceChosen,
+                                    const _panelFeature* reference);
 
 // The 512 points of a curve for the plot: x the voltage, y the current.
 QVector<QPointF> curvePoints(const _ramp_iv* curve);

@@ -19,6 +19,8 @@ template <> struct Kind<PanelIV> {
     static constexpr const char* name = "panel";
     static constexpr const char* progress = "Misura Modulo...";
     static constexpr const char* dataEntry = "Modulo";
+    // the measures menu of a screen without a curve
+    static QStringList menu() { return {"Rs", "-", "Ambiente"}; }
     static void count(ModalDriver&) {}
 };
 
@@ -26,6 +28,7 @@ template <> struct Kind<StringIV> {
     static constexpr const char* name = "string";
     static constexpr const char* progress = "Misura Stringa...";
     static constexpr const char* dataEntry = "Stringa";
+    static QStringList menu() { return {"Ambiente"}; }
     // the count dialog as it stands, confirmed with "Applica"
     static void count(ModalDriver& driver)
     {

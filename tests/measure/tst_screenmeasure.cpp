@@ -47,14 +47,15 @@ template <class S> void goodMeasure()
     S panel(nullptr);
     panel.show();
     QVERIFY(!child<QPushButton>(&panel, "Salva")->isEnabled());
-    QCOMPARE(entries(measuresMenu(&panel)), QStringList());
+    QCOMPARE(entries(measuresMenu(&panel)), Kind<S>::menu());
     touch(&panel, "Start");
     QCOMPARE(driver.pending(), 0);
     QVERIFY(panel._measureDone);
     QVERIFY(panel._curveValid);
     QVERIFY(panel._stcValid);
     QVERIFY(child<QPushButton>(&panel, "Salva")->isEnabled());
-    QCOMPARE(entries(measuresMenu(&panel)), (QStringList{"-", Kind<S>::dataEntry, "-", "Potenza"}));
+    QCOMPARE(entries(measuresMenu(&panel)),
+             (Kind<S>::menu() + QStringList{"-", Kind<S>::dataEntry, "-", "Potenza"}));
     QCOMPARE(panel.plotter()->curves().value(0).size(), RAMP_POINTS);
     QVERIFY(!panel.plotter()->curves().contains(1));
     // the curve begins on Voc and ends on Isc
@@ -260,7 +261,8 @@ template <class S> void refusedStart()
     QCOMPARE(panel.plotter()->curves().value(0), curve);
     QVERIFY(panel._measureDone);
     QVERIFY(child<QPushButton>(&panel, "Salva")->isEnabled());
-    QCOMPARE(entries(measuresMenu(&panel)), (QStringList{"-", Kind<S>::dataEntry, "-", "Potenza"}));
+    QCOMPARE(entries(measuresMenu(&panel)),
+             (Kind<S>::menu() + QStringList{"-", Kind<S>::dataEntry, "-", "Potenza"}));
 }
 
 template <class S> void secondReadingDecidesNothing()
@@ -303,7 +305,7 @@ template <class S> void secondReadingWithoutTemperature()
     QVERIFY(!panel._measureDone);
     QVERIFY(!panel._curveValid);
     QVERIFY(!child<QPushButton>(&panel, "Salva")->isEnabled());
-    QCOMPARE(entries(measuresMenu(&panel)), QStringList());
+    QCOMPARE(entries(measuresMenu(&panel)), Kind<S>::menu());
 }
 
 template <class S> void fall800To786()
@@ -396,7 +398,7 @@ template <class S> void boardError1()
     QVERIFY(!panel._temperatureValid);
     QVERIFY(!panel._irradianceValid);
     QVERIFY(!child<QPushButton>(&panel, "Salva")->isEnabled());
-    QCOMPARE(entries(measuresMenu(&panel)), QStringList());
+    QCOMPARE(entries(measuresMenu(&panel)), Kind<S>::menu());
     // the plot was cleared when the first reading had passed
     QVERIFY(panel.plotter()->curves().isEmpty());
     saveScreenshot(&panel, shot(Kind<S>::name, "after_board_error_box"));
@@ -649,12 +651,12 @@ template <class S> void twoGoodMeasures()
     touch(&panel, "Start");
     QCOMPARE(driver.boxes.size(), 0);
     QCOMPARE(entries(measuresMenu(&panel)),
-             (QStringList{"-", "-", "-", Kind<S>::dataEntry, "-", "Potenza"}));
+             (Kind<S>::menu() + QStringList{"-", "-", "-", Kind<S>::dataEntry, "-", "Potenza"}));
     QVERIFY(sim.command("board status 10"));
     Kind<S>::count(driver);
     driver.answerBox();
     touch(&panel, "Start");
-    QCOMPARE(entries(measuresMenu(&panel)), QStringList());
+    QCOMPARE(entries(measuresMenu(&panel)), Kind<S>::menu());
 }
 
 template <class S> void englishBoardFailure()

@@ -2,6 +2,94 @@
 <!DOCTYPE TS>
 <TS version="2.0" language="de_DE" sourcelanguage="it_IT">
 <context>
+    <name>DialogAmbiente</name>
+    <message>
+        <location filename="../../../measure/dialogambiente.cpp" line="+26"/>
+        <source>Temp. Cell.</source>
+        <translation>Zellentemp.</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>Misure Ambiente</source>
+        <translation>Umgebungsmessungen</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Temp. Mod.</source>
+        <translation>Modultemp.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Temp. Auto</source>
+        <translation>Temp. Auto</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Temp. Manuale</source>
+        <translation>Temp. Manuell</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Temp. Amb.</source>
+        <translation>Umgebungstemp.</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Irr.</source>
+        <translation>Einstr.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Annulla</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <location line="+40"/>
+        <location line="+31"/>
+        <location line="+15"/>
+        <location line="+2"/>
+        <source>Attivazione Collegamento.</source>
+        <translation>Verbindung wird aufgebaut.</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <location line="+4"/>
+        <source>Attivazione Collegamento..</source>
+        <translation>Verbindung wird aufgebaut..</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <location line="+38"/>
+        <source>Collegamento Remoto...</source>
+        <translation>Fernverbindung...</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <source>Collegamento Remoto.</source>
+        <translation>Fernverbindung.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Collegamento Remoto..</source>
+        <translation>Fernverbindung..</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Unità Remota</source>
+        <translation>Ferneinheit</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Non connessa o assente.</source>
+        <translation>Nicht verbunden oder nicht vorhanden.</translation>
+    </message>
+</context>
+<context>
     <name>DialogCollegamenti</name>
     <message>
         <location filename="../../../measure/dialogcollegamenti.cpp" line="+19"/>
@@ -188,6 +276,149 @@
     </message>
 </context>
 <context>
+    <name>DialogRs</name>
+    <message>
+        <location filename="../../../measure/dialogrs.cpp" line="+49"/>
+        <location line="+21"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>ohm</source>
+        <translation>Ohm</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr.</source>
+        <translation>Einstr.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <source>Attivazione Collegamento..</source>
+        <translation>Verbindung wird aufgebaut..</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Verbindung wird aufgebaut...</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Collegamento Remoto...</source>
+        <translation>Fernverbindung...</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Irradiazione</source>
+        <translation>Einstrahlung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irradiazione troppo bassa.</source>
+        <translation>Einstrahlung zu niedrig.</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Irradiazione troppo alta.</source>
+        <translation>Einstrahlung zu hoch.</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Misura Modulo...</source>
+        <translation>Modulmessung...</translation>
+    </message>
+    <message>
+        <location line="+59"/>
+        <source>Tensione Eccessiva.</source>
+        <translation>Spannung zu hoch.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente Eccessiva.</source>
+        <translation>Strom zu hoch.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Potenza Eccessiva.</source>
+        <translation>Leistung zu hoch.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Energia Eccessiva.</source>
+        <translation>Energie zu hoch.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Polarità Inversa.</source>
+        <translation>Polarität vertauscht.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Negativo Flottante.</source>
+        <translation>Potentialfrei.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Tensione troppo bassa.</source>
+        <translation>Spannung zu niedrig.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente troppo bassa.</source>
+        <translation>Strom zu niedrig.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Attendere raffreddamento...
+Strumento surriscaldato.
+Attendere prima di riprendere i test.</source>
+        <translation>Abkühlung abwarten...
+Gerät überhitzt.
+Vor weiteren Tests bitte warten.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Problema di connessione al Power Device.</source>
+        <translation>Anschlussproblem an Power Device.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Power Device</source>
+        <translation>Power Device</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Misura Fase 1</source>
+        <translation>Messung Phase 1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Misura Fase 2</source>
+        <translation>Messung Phase 2</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Unità Remota</source>
+        <translation>Ferneinheit</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Non connessa o assente.</source>
+        <translation>Nicht verbunden oder nicht vorhanden.</translation>
+    </message>
+</context>
+<context>
     <name>DialogShutDown</name>
     <message>
         <location filename="../../../measure/dialogshutdown.cpp" line="+36"/>
@@ -206,9 +437,38 @@
     </message>
 </context>
 <context>
+    <name>DialogViewRs</name>
+    <message>
+        <location filename="../../../measure/dialogviewrs.cpp" line="+12"/>
+        <location line="+3"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>ohm</source>
+        <translation>Ohm</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr. 1</source>
+        <translation>Einstr. 1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr. 2</source>
+        <translation>Einstr. 2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+69"/>
+        <location filename="../../../measure/panelIV.cpp" line="+72"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -238,7 +498,23 @@
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+29"/>
+        <location line="+25"/>
+        <source>Calcolo</source>
+        <translation>Berechnung</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+5"/>
+        <source>Misurato</source>
+        <translation>Gemessen</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Attuale</source>
+        <translation>Aktuell</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>Modulo</source>
         <translation>Modul</translation>
     </message>
@@ -258,7 +534,17 @@
         <translation>Leistung</translation>
     </message>
     <message>
-        <location line="+54"/>
+        <location line="+5"/>
+        <source>Ambiente</source>
+        <translation>Umgebung</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+62"/>
         <source>Misura Modulo...</source>
         <translation>Modulmessung...</translation>
     </message>
@@ -332,7 +618,7 @@ Vor weiteren Tests bitte warten.</translation>
         <translation>Anschlussproblem an Power Device.</translation>
     </message>
     <message>
-        <location line="+22"/>
+        <location line="+26"/>
         <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Umgebungsmessung</translation>
@@ -379,7 +665,7 @@ Vor weiteren Tests bitte warten.</translation>
         <translation>Einstrahlung zu niedrig (&lt; </translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+22"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Einstrahlung sehr variabel</translation>
     </message>
@@ -396,7 +682,7 @@ Bitte wiederholen.</translation>
         <translation>Temperatur von Grenzen.</translation>
     </message>
     <message>
-        <location line="+120"/>
+        <location line="+157"/>
         <source>Misura Salvata.</source>
         <translation>Messung gespeichert.</translation>
     </message>
@@ -463,7 +749,7 @@ Bitte wiederholen.</translation>
 <context>
     <name>StringIV</name>
     <message>
-        <location filename="../../../measure/stringIV.cpp" line="+70"/>
+        <location filename="../../../measure/stringIV.cpp" line="+71"/>
         <source>String IV</source>
         <translation>String IV</translation>
     </message>
@@ -493,7 +779,17 @@ Bitte wiederholen.</translation>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+25"/>
+        <source>Attuale</source>
+        <translation>Aktuell</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Misurato</source>
+        <translation>Gemessen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Stringa</source>
         <translation>String</translation>
     </message>
@@ -513,7 +809,12 @@ Bitte wiederholen.</translation>
         <translation>Leistung</translation>
     </message>
     <message>
-        <location line="+54"/>
+        <location line="+5"/>
+        <source>Ambiente</source>
+        <translation>Umgebung</translation>
+    </message>
+    <message>
+        <location line="+58"/>
         <source>Misura Stringa...</source>
         <translation>Stringmessung...</translation>
     </message>
@@ -587,7 +888,7 @@ Vor weiteren Tests bitte warten.</translation>
         <translation>Anschlussproblem an Power Device.</translation>
     </message>
     <message>
-        <location line="+23"/>
+        <location line="+25"/>
         <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Umgebungsmessung</translation>
@@ -634,7 +935,7 @@ Vor weiteren Tests bitte warten.</translation>
         <translation>Einstrahlung zu niedrig (&lt; </translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="+21"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Einstrahlung sehr variabel</translation>
     </message>
@@ -651,7 +952,7 @@ Bitte wiederholen.</translation>
         <translation>Temperatur von Grenzen.</translation>
     </message>
     <message>
-        <location line="+123"/>
+        <location line="+138"/>
         <source>Misura Salvata.</source>
         <translation>Messung gespeichert.</translation>
     </message>

@@ -2,6 +2,94 @@
 <!DOCTYPE TS>
 <TS version="2.0" language="es_ES" sourcelanguage="it_IT">
 <context>
+    <name>DialogAmbiente</name>
+    <message>
+        <location filename="../../../measure/dialogambiente.cpp" line="+26"/>
+        <source>Temp. Cell.</source>
+        <translation>Temp. Célula</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>Misure Ambiente</source>
+        <translation>Medidas Ambiente</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Temp. Mod.</source>
+        <translation>Temp. Mód.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Temp. Auto</source>
+        <translation>Temp. Auto</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Temp. Manuale</source>
+        <translation>Temp. Manual</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Temp. Amb.</source>
+        <translation>Temp. Amb.</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Irr.</source>
+        <translation>Irr.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Annulla</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <location line="+40"/>
+        <location line="+31"/>
+        <location line="+15"/>
+        <location line="+2"/>
+        <source>Attivazione Collegamento.</source>
+        <translation>Activación Conexión.</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <location line="+4"/>
+        <source>Attivazione Collegamento..</source>
+        <translation>Activación Conexión..</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <location line="+38"/>
+        <source>Collegamento Remoto...</source>
+        <translation>Conexión Remota...</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <source>Collegamento Remoto.</source>
+        <translation>Conexión Remota.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Collegamento Remoto..</source>
+        <translation>Conexión Remota..</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Unità Remota</source>
+        <translation>Unidad Remota</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Non connessa o assente.</source>
+        <translation>No conectada o ausente.</translation>
+    </message>
+</context>
+<context>
     <name>DialogCollegamenti</name>
     <message>
         <location filename="../../../measure/dialogcollegamenti.cpp" line="+19"/>
@@ -188,6 +276,149 @@
     </message>
 </context>
 <context>
+    <name>DialogRs</name>
+    <message>
+        <location filename="../../../measure/dialogrs.cpp" line="+49"/>
+        <location line="+21"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>ohm</source>
+        <translation>ohm</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr.</source>
+        <translation>Irr.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <source>Attivazione Collegamento..</source>
+        <translation>Activación Conexión..</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Activando conexión...</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Collegamento Remoto...</source>
+        <translation>Conexión Remota...</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Irradiazione</source>
+        <translation>Irradiación</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irradiazione troppo bassa.</source>
+        <translation>Irradiación demasiado baja.</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Irradiazione troppo alta.</source>
+        <translation>Irradiación demasiado alta.</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Misura Modulo...</source>
+        <translation>Medida módulo...</translation>
+    </message>
+    <message>
+        <location line="+59"/>
+        <source>Tensione Eccessiva.</source>
+        <translation>Valor de tensión excesivo.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente Eccessiva.</source>
+        <translation>Valor excesivo de corriente.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Potenza Eccessiva.</source>
+        <translation>Valor excesivo de potencia.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Energia Eccessiva.</source>
+        <translation>Valor excesivo de energía.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Polarità Inversa.</source>
+        <translation>Polaridad invertida.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Negativo Flottante.</source>
+        <translation>Negativo flotante.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Tensione troppo bassa.</source>
+        <translation>Tension demasiado baja.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente troppo bassa.</source>
+        <translation>Corriente demasiado baja.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Attendere raffreddamento...
+Strumento surriscaldato.
+Attendere prima di riprendere i test.</source>
+        <translation>Esperar el enfriamiento...
+Instrumento sobrecalentado.
+Esperar antes de reanudar las pruebas.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Problema di connessione al Power Device.</source>
+        <translation>Problema de conexión con el módulo de Potencia.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Power Device</source>
+        <translation>Power Device</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Misura Fase 1</source>
+        <translation>Medida Fase 1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Misura Fase 2</source>
+        <translation>Medida Fase 2</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Unità Remota</source>
+        <translation>Unidad remota</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Non connessa o assente.</source>
+        <translation>No conectada o ausente.</translation>
+    </message>
+</context>
+<context>
     <name>DialogShutDown</name>
     <message>
         <location filename="../../../measure/dialogshutdown.cpp" line="+36"/>
@@ -206,9 +437,38 @@
     </message>
 </context>
 <context>
+    <name>DialogViewRs</name>
+    <message>
+        <location filename="../../../measure/dialogviewrs.cpp" line="+12"/>
+        <location line="+3"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>ohm</source>
+        <translation>ohm</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr. 1</source>
+        <translation>Irr. 1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr. 2</source>
+        <translation>Irr. 2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+69"/>
+        <location filename="../../../measure/panelIV.cpp" line="+72"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -238,7 +498,23 @@
         <translation>Salir</translation>
     </message>
     <message>
-        <location line="+29"/>
+        <location line="+25"/>
+        <source>Calcolo</source>
+        <translation>Cálculo</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+5"/>
+        <source>Misurato</source>
+        <translation>Medido</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Attuale</source>
+        <translation>Actual</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>Modulo</source>
         <translation>Módulo</translation>
     </message>
@@ -258,7 +534,17 @@
         <translation>Potencia</translation>
     </message>
     <message>
-        <location line="+54"/>
+        <location line="+5"/>
+        <source>Ambiente</source>
+        <translation>Ambiente</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+62"/>
         <source>Misura Modulo...</source>
         <translation>Medida módulo...</translation>
     </message>
@@ -332,7 +618,7 @@ Esperar antes de reanudar las pruebas.</translation>
         <translation>Problema de conexión con el módulo de Potencia.</translation>
     </message>
     <message>
-        <location line="+22"/>
+        <location line="+26"/>
         <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Adquisición medidas ambientales</translation>
@@ -379,7 +665,7 @@ Esperar antes de reanudar las pruebas.</translation>
         <translation>Irradiancia insuficiente (&lt; </translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+22"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Valor de la irradiancia inestable</translation>
     </message>
@@ -396,7 +682,7 @@ Repita et test.</translation>
         <translation>Temperatura fuera límite.</translation>
     </message>
     <message>
-        <location line="+120"/>
+        <location line="+157"/>
         <source>Misura Salvata.</source>
         <translation>Medida guardada.</translation>
     </message>
@@ -463,7 +749,7 @@ Repita et test.</translation>
 <context>
     <name>StringIV</name>
     <message>
-        <location filename="../../../measure/stringIV.cpp" line="+70"/>
+        <location filename="../../../measure/stringIV.cpp" line="+71"/>
         <source>String IV</source>
         <translation>String IV</translation>
     </message>
@@ -493,7 +779,17 @@ Repita et test.</translation>
         <translation>Salir</translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+25"/>
+        <source>Attuale</source>
+        <translation>Actual</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Misurato</source>
+        <translation>Medido</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Stringa</source>
         <translation>String</translation>
     </message>
@@ -513,7 +809,12 @@ Repita et test.</translation>
         <translation>Potencia</translation>
     </message>
     <message>
-        <location line="+54"/>
+        <location line="+5"/>
+        <source>Ambiente</source>
+        <translation>Ambiente</translation>
+    </message>
+    <message>
+        <location line="+58"/>
         <source>Misura Stringa...</source>
         <translation>Medida string...</translation>
     </message>
@@ -587,7 +888,7 @@ Esperar antes de reanudar las pruebas.</translation>
         <translation>Problema de conexión con el módulo de Potencia.</translation>
     </message>
     <message>
-        <location line="+23"/>
+        <location line="+25"/>
         <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Adquisición medidas ambientales</translation>
@@ -634,7 +935,7 @@ Esperar antes de reanudar las pruebas.</translation>
         <translation>Irradiancia insuficiente (&lt; </translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="+21"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Valor de la irradiancia inestable</translation>
     </message>
@@ -651,7 +952,7 @@ Repita et test.</translation>
         <translation>Temperatura fuera límite.</translation>
     </message>
     <message>
-        <location line="+123"/>
+        <location line="+138"/>
         <source>Misura Salvata.</source>
         <translation>Medida guardada.</translation>
     </message>

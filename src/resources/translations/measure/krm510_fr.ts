@@ -2,6 +2,94 @@
 <!DOCTYPE TS>
 <TS version="2.0" language="fr_FR" sourcelanguage="it_IT">
 <context>
+    <name>DialogAmbiente</name>
+    <message>
+        <location filename="../../../measure/dialogambiente.cpp" line="+26"/>
+        <source>Temp. Cell.</source>
+        <translation>Temp. Cellule</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>Misure Ambiente</source>
+        <translation>Mesures Environnement</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Temp. Mod.</source>
+        <translation>Temp. Mod.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Temp. Auto</source>
+        <translation>Temp. Auto</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Temp. Manuale</source>
+        <translation>Temp. Manuelle</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Temp. Amb.</source>
+        <translation>Temp. Amb.</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Irr.</source>
+        <translation>Irr.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Annulla</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <location line="+40"/>
+        <location line="+31"/>
+        <location line="+15"/>
+        <location line="+2"/>
+        <source>Attivazione Collegamento.</source>
+        <translation>Activation Liaison.</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <location line="+4"/>
+        <source>Attivazione Collegamento..</source>
+        <translation>Activation Liaison..</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <location line="+38"/>
+        <source>Collegamento Remoto...</source>
+        <translation>Liaison à distance...</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <source>Collegamento Remoto.</source>
+        <translation>Liaison à distance.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Collegamento Remoto..</source>
+        <translation>Liaison à distance..</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Unità Remota</source>
+        <translation>Unité à distance</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Non connessa o assente.</source>
+        <translation>Non connectée ou absente.</translation>
+    </message>
+</context>
+<context>
     <name>DialogCollegamenti</name>
     <message>
         <location filename="../../../measure/dialogcollegamenti.cpp" line="+19"/>
@@ -188,6 +276,149 @@
     </message>
 </context>
 <context>
+    <name>DialogRs</name>
+    <message>
+        <location filename="../../../measure/dialogrs.cpp" line="+49"/>
+        <location line="+21"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>ohm</source>
+        <translation>ohm</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr.</source>
+        <translation>Irr.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Reset</source>
+        <translation>Réinit.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <source>Attivazione Collegamento..</source>
+        <translation>Activation Liaison..</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Attivazione Collegamento...</source>
+        <translation>Activation de la liaison...</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Collegamento Remoto...</source>
+        <translation>Liaison à distance...</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Irradiazione</source>
+        <translation>Irradiation</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irradiazione troppo bassa.</source>
+        <translation>Irradiation trop faible.</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Irradiazione troppo alta.</source>
+        <translation>Irradiation trop élevée.</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Misura Modulo...</source>
+        <translation>Mesure module...</translation>
+    </message>
+    <message>
+        <location line="+59"/>
+        <source>Tensione Eccessiva.</source>
+        <translation>Valeur tension exessive.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente Eccessiva.</source>
+        <translation>Valeur de courant excessive.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Potenza Eccessiva.</source>
+        <translation>Valeur de puissance excessive.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Energia Eccessiva.</source>
+        <translation>Valeur d&apos;énergie excessive.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Polarità Inversa.</source>
+        <translation>Polarité inversée.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Negativo Flottante.</source>
+        <translation>Negatif flottant.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Tensione troppo bassa.</source>
+        <translation>Tension trop fiable.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Corrente troppo bassa.</source>
+        <translation>Courant trop fiable.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Attendere raffreddamento...
+Strumento surriscaldato.
+Attendere prima di riprendere i test.</source>
+        <translation>Attendre le refroidissement...
+Instrument surchauffé.
+Attendre avant de reprendre les tests.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Problema di connessione al Power Device.</source>
+        <translation>Problème de connection à l&apos;appareil de puissance.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Power Device</source>
+        <translation>Power Device</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Misura Fase 1</source>
+        <translation>Mesure Phase 1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Misura Fase 2</source>
+        <translation>Mesure Phase 2</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Unità Remota</source>
+        <translation>Unité distante</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Non connessa o assente.</source>
+        <translation>Non connectée ou absente.</translation>
+    </message>
+</context>
+<context>
     <name>DialogShutDown</name>
     <message>
         <location filename="../../../measure/dialogshutdown.cpp" line="+36"/>
@@ -206,9 +437,38 @@
     </message>
 </context>
 <context>
+    <name>DialogViewRs</name>
+    <message>
+        <location filename="../../../measure/dialogviewrs.cpp" line="+12"/>
+        <location line="+3"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>ohm</source>
+        <translation>ohm</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr. 1</source>
+        <translation>Irr. 1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Irr. 2</source>
+        <translation>Irr. 2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+69"/>
+        <location filename="../../../measure/panelIV.cpp" line="+72"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -238,7 +498,23 @@
         <translation>Sortie</translation>
     </message>
     <message>
-        <location line="+29"/>
+        <location line="+25"/>
+        <source>Calcolo</source>
+        <translation>Calcul</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+5"/>
+        <source>Misurato</source>
+        <translation>Mesuré</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Attuale</source>
+        <translation>Actuel</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>Modulo</source>
         <translation>Module</translation>
     </message>
@@ -258,7 +534,17 @@
         <translation>Puissance</translation>
     </message>
     <message>
-        <location line="+54"/>
+        <location line="+5"/>
+        <source>Ambiente</source>
+        <translation>Environnement</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+62"/>
         <source>Misura Modulo...</source>
         <translation>Mesure module...</translation>
     </message>
@@ -332,7 +618,7 @@ Attendre avant de reprendre les tests.</translation>
         <translation>Problème de connection à l&apos;appareil de puissance.</translation>
     </message>
     <message>
-        <location line="+22"/>
+        <location line="+26"/>
         <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Acquisition mesures ambiantes</translation>
@@ -379,7 +665,7 @@ Attendre avant de reprendre les tests.</translation>
         <translation>Ensoleillement insuffisant (&lt; </translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+22"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Fort variation du valeur d&apos;ensoleillement</translation>
     </message>
@@ -396,7 +682,7 @@ Repeter le test.</translation>
         <translation>Température hors limite.</translation>
     </message>
     <message>
-        <location line="+120"/>
+        <location line="+157"/>
         <source>Misura Salvata.</source>
         <translation>Mesure sauvegardée.</translation>
     </message>
@@ -463,7 +749,7 @@ Repeter le test.</translation>
 <context>
     <name>StringIV</name>
     <message>
-        <location filename="../../../measure/stringIV.cpp" line="+70"/>
+        <location filename="../../../measure/stringIV.cpp" line="+71"/>
         <source>String IV</source>
         <translation>String IV</translation>
     </message>
@@ -493,7 +779,17 @@ Repeter le test.</translation>
         <translation>Sortie</translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+25"/>
+        <source>Attuale</source>
+        <translation>Actuel</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Misurato</source>
+        <translation>Mesuré</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Stringa</source>
         <translation>Chaine</translation>
     </message>
@@ -513,7 +809,12 @@ Repeter le test.</translation>
         <translation>Puissance</translation>
     </message>
     <message>
-        <location line="+54"/>
+        <location line="+5"/>
+        <source>Ambiente</source>
+        <translation>Environnement</translation>
+    </message>
+    <message>
+        <location line="+58"/>
         <source>Misura Stringa...</source>
         <translation>Mesure chaine...</translation>
     </message>
@@ -587,7 +888,7 @@ Attendre avant de reprendre les tests.</translation>
         <translation>Problème de connection à l&apos;appareil de puissance.</translation>
     </message>
     <message>
-        <location line="+23"/>
+        <location line="+25"/>
         <location line="+49"/>
         <source>Acquisizione Misure Ambiente</source>
         <translation>Acquisition mesures ambiantes</translation>
@@ -634,7 +935,7 @@ Attendre avant de reprendre les tests.</translation>
         <translation>Ensoleillement insuffisant (&lt; </translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="+21"/>
         <source>Delta Irraggiamento Elevato</source>
         <translation>Fort variation du valeur d&apos;ensoleillement</translation>
     </message>
@@ -651,7 +952,7 @@ Repeter le test.</translation>
         <translation>Température hors limite.</translation>
     </message>
     <message>
-        <location line="+123"/>
+        <location line="+138"/>
         <source>Misura Salvata.</source>
         <translation>Mesure sauvegardée.</translation>
     </message>
