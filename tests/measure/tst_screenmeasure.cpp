@@ -38,7 +38,7 @@ QString shot(const char* name, const char* what)
 
 template <class S> void goodMeasure()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -77,7 +77,7 @@ template <class S> void goodMeasure()
 
 template <class S> void heatSink65()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -107,7 +107,7 @@ template <class S> void heatSink65()
 
 template <class S> void heatSink64_9()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -127,7 +127,7 @@ template <class S> void automaticAndManual()
 {
     QFETCH(int, probe);
     QFETCH(float, expected);
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root, [probe](_configParam& c) {
         c.tprobe = static_cast<_probeTemp>(probe);
@@ -148,7 +148,7 @@ template <class S> void automaticAndManual()
 
 template <class S> void openTemperatureProbe()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -169,7 +169,7 @@ template <class S> void openTemperatureProbe()
 
 template <class S> void bothMissing()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -191,7 +191,7 @@ template <class S> void bothMissing()
 
 template <class S> void missingIrradiance()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -210,7 +210,7 @@ template <class S> void missingIrradiance()
 
 template <class S> void irrminBoundary()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -242,7 +242,7 @@ template <class S> void irrminBoundary()
 
 template <class S> void refusedStart()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -266,7 +266,7 @@ template <class S> void refusedStart()
 template <class S> void secondReadingDecidesNothing()
 {
     // below irrmin after the ramp: not refused, and the first reading stays
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -287,7 +287,7 @@ template <class S> void secondReadingDecidesNothing()
 
 template <class S> void secondReadingWithoutTemperature()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -308,7 +308,7 @@ template <class S> void secondReadingWithoutTemperature()
 
 template <class S> void fall800To786()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 800, 45));
@@ -332,7 +332,7 @@ template <class S> void fall800To786()
 
 template <class S> void fall700To685()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root, [](_configParam& c) { c.irrmin = 500; });
     QVERIFY(world(sim, 699.8, 45));
@@ -353,7 +353,7 @@ template <class S> void boardConditions()
 {
     QFETCH(int, status);
     QFETCH(QString, text);
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -373,7 +373,7 @@ template <class S> void boardConditions()
 
 template <class S> void boardError1()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -404,7 +404,7 @@ template <class S> void boardError1()
 
 template <class S> void silentBoard()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -422,7 +422,7 @@ template <class S> void silentBoard()
 
 template <class S> void exhaustedBattery()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -474,7 +474,7 @@ template <class S> void exhaustedBattery()
 // line: a lost connection, never a good measure of zero points.
 template <class S> void nulInsideTheRamp()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -499,7 +499,7 @@ template <class S> void nulInsideTheRamp()
 // told as a restoration.
 template <class S> void oneBatteryDialog()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -551,7 +551,7 @@ template <class S> void oneBatteryDialog()
 // never shows the measure's progress, however long its box stays.
 template <class S> void noMeasureProgressOverARefusal()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -580,7 +580,7 @@ template <class S> void noMeasureProgressOverARefusal()
 // inside the measure.
 template <class S> void startDuringAMeasure()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -610,7 +610,7 @@ template <class S> void startDuringAMeasure()
 // its figures with a ramp of zeros.
 template <class S> void startEndingWithoutACurve()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -635,7 +635,7 @@ template <class S> void startEndingWithoutACurve()
 
 template <class S> void twoGoodMeasures()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(world(sim, 850, 45));
@@ -659,7 +659,7 @@ template <class S> void twoGoodMeasures()
 
 template <class S> void englishBoardFailure()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     QVERIFY(root.installCatalogues());
     SimInstrument sim(root);
     configure(root, [](_configParam& c) { c.lang = LANG_EN; });
@@ -688,7 +688,7 @@ template <class S> void englishBoardFailure()
 
 template <class S> void fourFailedConnections()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root, [](_configParam& c) { c.remote = LINK_USB; });
     QVERIFY(world(sim, 820, 40));
@@ -713,7 +713,7 @@ template <class S> void fourFailedConnections()
 
 template <class S> void remoteOnUsb()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root, [](_configParam& c) { c.remote = LINK_USB; });
     QVERIFY(world(sim, 820, 40));
@@ -736,7 +736,7 @@ template <class S> void clockBySetting()
 {
     QFETCH(int, mode);
     QFETCH(QString, pattern);
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     configure(root, [mode](_configParam& c) { c.tclock = static_cast<_displayClock>(mode); });
     S panel(nullptr);
     panel.show();
@@ -755,7 +755,7 @@ template <class S> void clockBySetting()
 
 template <class S> void supplyPictures()
 {
-    TestRoot root(0.01);
+    TestRoot root(0.1);
     SimInstrument sim(root);
     configure(root);
     QVERIFY(sim.setAdapter(true));
