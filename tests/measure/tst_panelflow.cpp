@@ -84,7 +84,7 @@ private slots:
 
     void moduleTestFromTheMenuToTheSavedFile()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(addModule("Simul", "simul", "SIM 250", "sim_250", simulatedSheet(3)));
@@ -120,7 +120,7 @@ private slots:
     }
     void moduleTenPercentBelowItsDataSheetFails()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(addModule("Simul", "simul", "SIM 250", "sim_250", simulatedSheet(3)));
@@ -138,7 +138,7 @@ private slots:
     }
     void wiringPictureLeftOpensNoModuleScreen()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         ModalDriver driver;

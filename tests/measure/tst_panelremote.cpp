@@ -24,7 +24,7 @@ private slots:
 
     void remoteUnitWithoutIrradianceRefusesTheMeasure()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root, [](_configParam& c) { c.remote = LINK_USB; });
         QVERIFY(world(sim, 820, 40));
@@ -40,7 +40,7 @@ private slots:
     }
     void remoteUnitOnBluetoothIsReachedThroughTheLinkScript()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root, [](_configParam& c) { c.remote = LINK_BLUETOOTH; });
         QVERIFY(world(sim, 760, 38));

@@ -79,7 +79,7 @@ private slots:
 
     void matchingModulePassesAndTenPercentBelowFails()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         seedDatabase();
@@ -115,7 +115,7 @@ private slots:
     }
     void moduleChosenBeforeOrAfterTheMeasureGivesTheSameVerdict()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         seedDatabase();
@@ -147,7 +147,7 @@ private slots:
     }
     void newReferenceChoiceRecomputesFromTheFirstReading()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root, [](_configParam& c) { c.tprobe = PROBE_AMBIENT; });
         seedDatabase();
@@ -175,7 +175,7 @@ private slots:
     }
     void rejectedAgeingGivesNoAllowanceAndKeepsTheLastYears()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         seedDatabase();
@@ -219,7 +219,7 @@ private slots:
     }
     void unstableIrradianceWithAReferenceShowsAndSavesNoStandardValues()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         seedDatabase();
@@ -271,7 +271,7 @@ private slots:
     }
     void powerOpcReplacesTheStcCurveAndASecondPressRemovesIt()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         seedDatabase();
@@ -312,7 +312,7 @@ private slots:
     }
     void verdictRecalculationKeepsThePowerCurveNewlyScaled()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         seedDatabase();
@@ -336,7 +336,7 @@ private slots:
     }
     void temperatureOutOfLimitsForgetsTheReference()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root, [](_configParam& c) {
             c.tprobe = PROBE_MANUAL;
@@ -371,7 +371,7 @@ private slots:
 private:
     void temperatureLimitPasses(float t)
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root, [t](_configParam& c) {
             c.tprobe = PROBE_MANUAL;
@@ -394,7 +394,7 @@ private:
 private slots:
     void exitAfterAChoiceLeavesTheScreenAsItWas()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         seedDatabase();
@@ -419,7 +419,7 @@ private slots:
     // ---- Save
     void rejectedSaveFormKeepsSaveEnabledAndReturnOpensItTwice()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -451,7 +451,7 @@ private slots:
     }
     void saveIntoAMissingMeasureFolderSaysTheNameExistsAndLosesTheMeasure()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -473,7 +473,7 @@ private slots:
     }
     void savedCommentIsThePresetOfTheNextSave()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));

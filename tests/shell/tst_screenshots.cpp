@@ -35,7 +35,7 @@ class TestScreenshots : public QObject
     void shoot(QWidget* w, const QString& name, int lang)
     {
         w->show();
-        QVERIFY(QTest::qWaitForWindowExposed(w));
+        QVERIFY(QTest::qWaitForWindowExposed(w, 60000)); // a bound, not a pause
         QString file = saveScreenshot(w, name + "-" + code(lang));
         QVERIFY2(!file.isEmpty(), qPrintable(name));
         QImage picture(file);
