@@ -20,7 +20,7 @@ class TestKeyWalk : public QObject
 private slots:
     void keysFinishEveryScreen_moduleTestFromTheMenuAndBack()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         _panelFeature other = simulatedSheet(3);
@@ -155,7 +155,7 @@ private slots:
 
     void keysReachOnlyTheWindowInFront_saveFormOpenedByTouch()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -196,7 +196,7 @@ private slots:
 
     void keysFinishAMessageBox_upAndDownWalkItsButtons()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         PanelIV panel(nullptr);

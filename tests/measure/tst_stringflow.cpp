@@ -153,7 +153,7 @@ private slots:
     // ---- The menu's "Stringa"
     void stringButtonShowsTheStringWiringThenTheStringScreen()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         ModalDriver driver;
@@ -179,7 +179,7 @@ private slots:
     }
     void wiringPictureLeftOpensNoStringScreen()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         ModalDriver driver;
@@ -197,7 +197,7 @@ private slots:
     }
     void returnOnStringaOpensTheStringTest()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         ModalDriver driver;
@@ -222,7 +222,7 @@ private slots:
     // ---- Whole tests
     void stringOf12FromTheMenuToTheSavedFile()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root, [](_configParam& c) { c.tprobe = PROBE_MODULE; });
         QVERIFY(world(sim, 1000, 25));
@@ -274,7 +274,7 @@ private slots:
 
     void shortedBypassDiodeFailsTheStringAndTheCleanStringPasses()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root, [](_configParam& c) { c.tprobe = PROBE_MODULE; });
         QVERIFY(addModule("Simul", "simul", "SIM 250", "sim_250", simulatedSheet(3)));

@@ -59,7 +59,7 @@ private slots:
     // ---- Title and count
     void openingShowsTheTitleWithoutCountUntilTheFirstStart()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -86,7 +86,7 @@ private slots:
     }
     void referenceChosenBeforeTheFirstStartShowsTheTitleWithCount2()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         configure(root);
         QVERIFY(addModule("Simul", "simul", "SIM 250", "sim_250", simulatedSheet()));
         ModalDriver driver;
@@ -104,7 +104,7 @@ private slots:
     // showed a broken or empty name on a UTF-8 system.
     void textsSpeakUtf8_aLatin1ModelNameStandsWholeInTheTitle()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         configure(root);
         QVERIFY(addModule("Simul", "simul", "y", "kraft", simulatedSheet()));
         QByteArray model = root.read("/krm510data/datapanel/simul/kraft");
@@ -122,7 +122,7 @@ private slots:
     }
     void countIsAskedAtEveryStartAndKeptForTheLifeOfTheScreen()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -146,7 +146,7 @@ private slots:
     }
     void countStartsAgainAt2AtEachOpening()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -172,7 +172,7 @@ private slots:
     }
     void rejectingTheCountLeavesCurveVerdictAndSaveAndALaterReferenceChangesTheTitleOnly()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(addModule("Simul", "simul", "SIM 250", "sim_250", simulatedSheet()));
@@ -226,7 +226,7 @@ private slots:
     // ---- Qt 6 is not the old toolkit
     void countDialogKeptOpenBeyondTheProgressMinimumDurationShowsNoProgressDialog()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -252,7 +252,7 @@ private slots:
     // ---- The ramp
     void rampShowsTheGreenBarAndA1000VoltAxis()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -290,7 +290,7 @@ private slots:
     }
     void smoothingIsOfTheModuleType()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -306,7 +306,7 @@ private slots:
     }
     void startPressedWhileAMeasureRunsIsIgnored()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -330,7 +330,7 @@ private slots:
     }
     void startEndingWithoutANewCurveAfterTheRampsWereClearedTurnsSaveOff()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -354,7 +354,7 @@ private slots:
     // ---- Temperature and verdict
     void cellTemperatureFromVocUsesTheCount()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root, [](_configParam& c) { c.tprobe = PROBE_AUTO; });
         QVERIFY(addModule("Simul", "simul", "SIM 250", "sim_250", simulatedSheet()));
@@ -387,7 +387,7 @@ private slots:
         QCOMPARE(v.deltaPmax, -2.0f);
         QCOMPARE(v.result, 1);
         // on the screen: the deviation is the string's, against count x power
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(addModule("Simul", "simul", "SIM 250", "sim_250", simulatedSheet()));
@@ -409,7 +409,7 @@ private slots:
     }
     void ageingDialogIsTheModuleVariant()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(addModule("Simul", "simul", "SIM 250", "sim_250", simulatedSheet()));
@@ -430,7 +430,7 @@ private slots:
     }
     void restorationMessageStillShowsAfterAnInterveningFailureOfAnotherKind()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -469,7 +469,7 @@ private slots:
     // ---- Side dialogs, save, keys
     void stringEntryOpensTheElectricalDataOfAString()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -492,7 +492,7 @@ private slots:
     }
     void saveWritesAStringRecordWithTheCountAndNoSeriesResistance()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -530,7 +530,7 @@ private slots:
     }
     void saveIntoAMissingStringFolderSaysTheNameExistsAndLosesTheMeasure()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -553,7 +553,7 @@ private slots:
     }
     void rejectedSaveFormDoesNotReopenOnReturn()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
@@ -577,7 +577,7 @@ private slots:
     }
     void measuresMenuHoldsTheEnvironmentBeforeTheFirstCurveAndReturnOnItOpensItLive()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         configure(root);
         ModalDriver driver;
         QStringList seen;
@@ -595,7 +595,7 @@ private slots:
     }
     void returnOnStartAndExitAndEscape()
     {
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 850, 45));
