@@ -775,12 +775,12 @@
 <context>
     <name>DialogViewDataMeaBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewdatameabrask.cpp" line="+22"/>
+        <location filename="../../../debugbrask/dialogviewdatameabrask.cpp" line="+14"/>
         <source>View Data Mea Brask Unit User</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+1"/>
         <source>Num.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -805,12 +805,12 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Save</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -818,12 +818,12 @@
 <context>
     <name>DialogViewDataMeaBraskDebug</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewdatameabraskdebug.cpp" line="+23"/>
+        <location filename="../../../debugbrask/dialogviewdatameabraskdebug.cpp" line="+15"/>
         <source>View Data Mea Brask Unit Debug</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+1"/>
         <source>Num.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -858,12 +858,12 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Save</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -871,12 +871,12 @@
 <context>
     <name>DialogViewSweepBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewsweepbrask.cpp" line="+20"/>
+        <location filename="../../../debugbrask/dialogviewsweepbrask.cpp" line="+13"/>
         <source>View Data Sweep Brask Unit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+1"/>
         <source>Num.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -901,12 +901,12 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Save</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -914,12 +914,12 @@
 <context>
     <name>DialogViewZKillDataBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewzkilldatabrask.cpp" line="+21"/>
+        <location filename="../../../debugbrask/dialogviewzkilldatabrask.cpp" line="+14"/>
         <source>View Data Z Kill Brask Unit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+1"/>
         <source>Num.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -944,12 +944,12 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Save</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -957,12 +957,12 @@
 <context>
     <name>DialogViewZTstDataBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewztstdatabrask.cpp" line="+20"/>
+        <location filename="../../../debugbrask/dialogviewztstdatabrask.cpp" line="+13"/>
         <source>View Data Z Tst Brask Unit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+1"/>
         <source>Num.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -987,12 +987,12 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Save</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
