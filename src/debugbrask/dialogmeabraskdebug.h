@@ -1,48 +1,27 @@
 #ifndef KRM_DEBUGBRASK_DIALOGMEABRASKDEBUG_H
 #define KRM_DEBUGBRASK_DIALOGMEABRASKDEBUG_H
 
-#include "data/coredata.h"
-
-#include <QDialog>
-
-class InfoBar;
-class PowerDevice;
-class QLabel;
-class QPushButton;
+#include "debugbrask/dialogrampbrask.h"
 
 // One ramp of the board with the two gate voltages of the load stage, with the heat sink before
 // and after and the board's report; the points can be looked at and saved.
-class DialogMeaBraskDebug : public QDialog
+class DialogMeaBraskDebug : public DialogRampBrask
 {
     Q_OBJECT
 public:
     explicit DialogMeaBraskDebug(QWidget* parent);
 
-    int reportErrorSerialPort(_pdError error);
+    int reportErrorSerialPort(_pdError error) override;
 
-    _configParam _config;
     _raw_ramp_vgate _rawRamp;
-    _info_last _infoLast;
-    float tempStart;
-    float tempStop;
 
 public slots:
     void goToExecCmdDebug();
-    void goToViewData();
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    PowerDevice* _powerDevice;
-    InfoBar* _infoBar;
-    QLabel* _labelStatus;
-    QLabel* _labelTempStart;
-    QLabel* _labelTempStop;
-    QList<QLabel*> _labelInfo;
-    QPushButton* _buttonExec;
-    QPushButton* _buttonView;
-    QPushButton* _buttonExit;
+    void clearRamp() override;
+    _pdError acquireRamp(PowerDevice* device, QProgressDialog* progress) override;
+    QDialog* newView() override;
 };
 
 #endif

@@ -1,57 +1,21 @@
 #ifndef KRM_DEBUGBRASK_DIALOGSWEEPBRASK_H
 #define KRM_DEBUGBRASK_DIALOGSWEEPBRASK_H
 
-#include "data/coredata.h"
-
-#include <QDialog>
-#include <QMap>
-
-class InfoBar;
-class PowerDevice;
-class QComboBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
+#include "debugbrask/dialoggatebrask.h"
 
 // A sweep of the gate of the load stage up to an imposed voltage; the
 // board's four columns can be looked at and saved.
-class DialogSweepBrask : public QDialog
+class DialogSweepBrask : public DialogGateBrask
 {
     Q_OBJECT
 public:
     explicit DialogSweepBrask(QWidget* parent);
 
-    int reportErrorSerialPort(_pdError error);
-
-    _tstBrask _tst;
-    float tempStart;
-    float tempStop;
-    int target;
-
-public slots:
-    void goToExecCmd();
-    void goToViewData();
-    void editLineObject(QObject* obj);
+    int reportErrorSerialPort(_pdError error) override;
 
 protected:
-    bool eventFilter(QObject* obj, QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    void populateListCombo();
-    int getListCombo();
-    void showTemperature(QLabel* label, _pdError error, float value);
-
-    PowerDevice* _powerDevice;
-    QMap<QString, int> _listMap;
-    InfoBar* _infoBar;
-    QLineEdit* _lineTarget;
-    QComboBox* _comboList;
-    QLabel* _labelTempStart;
-    QLabel* _labelTempStop;
-    QPushButton* _buttonExec;
-    QPushButton* _buttonView;
-    QPushButton* _buttonExit;
+    _pdError acquire(PowerDevice* device, int list, QProgressDialog* progress) override;
+    QDialog* newView() override;
 };
 
 #endif

@@ -2,39 +2,25 @@
 #define KRM_DEBUGBRASK_DIALOGVIEWDATAMEABRASK_H
 
 #include "data/coredata.h"
-
-#include <QDialog>
-
-class InfoBar;
-class QListWidget;
-class QPushButton;
+#include "debugbrask/dialogviewbrask.h"
 
 // The 512 slots of a service ramp, raw and in units, and their file.
-class DialogViewDataMeaBrask : public QDialog
+class DialogViewDataMeaBrask : public DialogViewBrask
 {
     Q_OBJECT
 public:
     DialogViewDataMeaBrask(QWidget* parent, _raw_ramp_iv* ramp, _info_last* info, float tempStart,
                            float tempStop);
 
-public slots:
-    void goToSave();
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
 private:
-    void addValueOnList();
+    void addValueOnList() override;
+    int write(char* data, char* time, char* comment) override;
 
     _raw_ramp_iv* _ramp;
     _info_last* _info;
     float _tempStart;
     float _tempStop;
     _configParam _config;
-    InfoBar* _infoBar;
-    QListWidget* _list;
-    QPushButton* _buttonSave;
-    QPushButton* _buttonExit;
 };
 
 #endif

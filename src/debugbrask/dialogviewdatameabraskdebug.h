@@ -2,39 +2,25 @@
 #define KRM_DEBUGBRASK_DIALOGVIEWDATAMEABRASKDEBUG_H
 
 #include "data/coredata.h"
-
-#include <QDialog>
-
-class InfoBar;
-class QListWidget;
-class QPushButton;
+#include "debugbrask/dialogviewbrask.h"
 
 // The 512 slots of a service ramp, with the two gate voltages, raw and in units, and their file.
-class DialogViewDataMeaBraskDebug : public QDialog
+class DialogViewDataMeaBraskDebug : public DialogViewBrask
 {
     Q_OBJECT
 public:
     DialogViewDataMeaBraskDebug(QWidget* parent, _raw_ramp_vgate* ramp, _info_last* info,
                                 float tempStart, float tempStop);
 
-public slots:
-    void goToSave();
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
 private:
-    void addValueOnList();
+    void addValueOnList() override;
+    int write(char* data, char* time, char* comment) override;
 
     _raw_ramp_vgate* _ramp;
     _info_last* _info;
     float _tempStart;
     float _tempStop;
     _configParam _config;
-    InfoBar* _infoBar;
-    QListWidget* _list;
-    QPushButton* _buttonSave;
-    QPushButton* _buttonExit;
 };
 
 #endif

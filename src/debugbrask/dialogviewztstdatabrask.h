@@ -2,38 +2,24 @@
 #define KRM_DEBUGBRASK_DIALOGVIEWZTSTDATABRASK_H
 
 #include "data/coredata.h"
-
-#include <QDialog>
-
-class InfoBar;
-class QListWidget;
-class QPushButton;
+#include "debugbrask/dialogviewbrask.h"
 
 // The 128 rows of a Z test, raw, and their file.
-class DialogViewZTstDataBrask : public QDialog
+class DialogViewZTstDataBrask : public DialogViewBrask
 {
     Q_OBJECT
 public:
     DialogViewZTstDataBrask(QWidget* parent, _tstBrask* tst, int target, float tempStart,
                             float tempStop);
 
-public slots:
-    void goToSave();
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
 private:
-    void addValueOnList();
+    void addValueOnList() override;
+    int write(char* data, char* time, char* comment) override;
 
     _tstBrask* _tst;
     int _target;
     float _tempStart;
     float _tempStop;
-    InfoBar* _infoBar;
-    QListWidget* _list;
-    QPushButton* _buttonSave;
-    QPushButton* _buttonExit;
 };
 
 #endif

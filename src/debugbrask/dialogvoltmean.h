@@ -1,48 +1,21 @@
 #ifndef KRM_DEBUGBRASK_DIALOGVOLTMEAN_H
 #define KRM_DEBUGBRASK_DIALOGVOLTMEAN_H
 
-#include "data/coredata.h"
-
-#include <QDialog>
-#include <QMap>
-
-class InfoBar;
-class PowerDevice;
-class QComboBox;
-class QLabel;
-class QPushButton;
+#include "debugbrask/dialogmeanbrask.h"
 
 // One reading of the board's voltage channel on a chosen range, raw and in
 // volts with the calibration of that range.
-class DialogVoltMean : public QDialog
+class DialogVoltMean : public DialogMeanBrask
 {
     Q_OBJECT
 public:
     explicit DialogVoltMean(QWidget* parent);
 
-    int reportErrorSerialPort(_pdError error);
-
-public slots:
-    void goToExecCmd();
+    int reportErrorSerialPort(_pdError error) override;
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    void populateRange();
-    int getRange();
-
-    _configParam _config;
-    QMap<QString, int> _rangeMap;
-    PowerDevice* _powerDevice;
-    InfoBar* _infoBar;
-    QComboBox* _comboRange;
-    QLabel* _labelHex;
-    QLabel* _labelDec;
-    QLabel* _labelValue;
-    QLabel* _labelStatus;
-    QPushButton* _buttonExec;
-    QPushButton* _buttonExit;
+    _pdError acquire(PowerDevice* device, unsigned char range, int* count) override;
+    float toUnits(int range, int count) override;
 };
 
 #endif

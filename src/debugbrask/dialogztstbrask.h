@@ -1,59 +1,24 @@
 #ifndef KRM_DEBUGBRASK_DIALOGZTSTBRASK_H
 #define KRM_DEBUGBRASK_DIALOGZTSTBRASK_H
 
-#include "data/coredata.h"
-
-#include <QDialog>
-#include <QMap>
-
-class InfoBar;
-class PowerDevice;
-class QComboBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
+#include "debugbrask/dialoggatebrask.h"
 
 // The Z test of the load stage at an imposed gate voltage, alone or as a
 // series of thirteen gate voltages saved without a person.
-class DialogZTstBrask : public QDialog
+class DialogZTstBrask : public DialogGateBrask
 {
     Q_OBJECT
 public:
     explicit DialogZTstBrask(QWidget* parent);
 
-    int reportErrorSerialPort(_pdError error);
-
-    _tstBrask _tst;
-    float tempStart;
-    float tempStop;
-    int target;
+    int reportErrorSerialPort(_pdError error) override;
 
 public slots:
-    void goToExecCmd();
     void goToExecSweep();
-    void goToViewData();
-    void editLineObject(QObject* obj);
 
 protected:
-    bool eventFilter(QObject* obj, QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    void populateListCombo();
-    int getListCombo();
-    void showTemperature(QLabel* label, _pdError error, float value);
-
-    PowerDevice* _powerDevice;
-    QMap<QString, int> _listMap;
-    InfoBar* _infoBar;
-    QLineEdit* _lineTarget;
-    QComboBox* _comboList;
-    QLabel* _labelTempStart;
-    QLabel* _labelTempStop;
-    QPushButton* _buttonExec;
-    QPushButton* _buttonSweep;
-    QPushButton* _buttonView;
-    QPushButton* _buttonExit;
+    _pdError acquire(PowerDevice* device, int list, QProgressDialog* progress) override;
+    QDialog* newView() override;
 };
 
 #endif

@@ -57,64 +57,62 @@
 <context>
     <name>DialogCurrMean</name>
     <message>
-        <location filename="../../../debugbrask/dialogcurrmean.cpp" line="+23"/>
+        <location filename="../../../debugbrask/dialogcurrmean.cpp" line="+9"/>
         <source>Curr Mean</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Curr_mean</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+0"/>
         <source>---- (hex)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>---- (dec)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>---- (A)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+1"/>
         <source>Esegui</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>exit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+0"/>
         <source>Range:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Lettura:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+0"/>
         <source>Esecuzione comando....</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
-        <location line="+1"/>
         <location line="+1"/>
         <source>Err.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+23"/>
+        <location line="+20"/>
         <source>Power Device</source>
         <translation type="unfinished"></translation>
     </message>
@@ -233,22 +231,22 @@
 <context>
     <name>DialogMeaBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogmeabrask.cpp" line="+28"/>
+        <location filename="../../../debugbrask/dialogmeabrask.cpp" line="+13"/>
         <source>Mea_Brask User</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+1"/>
         <source>Mea_brask User</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Last Info</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Range</source>
         <translation type="unfinished"></translation>
     </message>
@@ -263,7 +261,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>TimeStep</source>
         <translation type="unfinished"></translation>
     </message>
@@ -293,63 +291,62 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+1"/>
         <source>Temp Start: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Temp Stop: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+1"/>
         <source>Esegui Utente</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Visualizza Dati</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>exit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+24"/>
+        <location line="+1"/>
         <source>Esecuzione comando User...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+1"/>
         <source>Lettura temperatura iniziale...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
-        <location line="+24"/>
+        <location line="+2"/>
         <source>Errore</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="-21"/>
+        <location line="-1"/>
         <source>Esecuzione comando User....</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+2"/>
         <source>Errore esecuzione</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+1"/>
         <source>Lettura temperatura finale...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+27"/>
         <source>Power Device</source>
         <translation type="unfinished"></translation>
     </message>
@@ -402,22 +399,22 @@
 <context>
     <name>DialogMeaBraskDebug</name>
     <message>
-        <location filename="../../../debugbrask/dialogmeabraskdebug.cpp" line="+28"/>
+        <location filename="../../../debugbrask/dialogmeabraskdebug.cpp" line="+13"/>
         <source>Mea_Brask Debug</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+1"/>
         <source>Mea_brask Debug</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Last Info</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Range</source>
         <translation type="unfinished"></translation>
     </message>
@@ -432,7 +429,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>TimeStep</source>
         <translation type="unfinished"></translation>
     </message>
@@ -462,63 +459,62 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+1"/>
         <source>Temp Start: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Temp Stop: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+1"/>
         <source>Esegui Debug</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Visualizza Dati</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>exit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+24"/>
+        <location line="+1"/>
         <source>Esecuzione comando Debug...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+1"/>
         <source>Lettura temperatura iniziale...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
-        <location line="+24"/>
+        <location line="+2"/>
         <source>Errore</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="-21"/>
+        <location line="-1"/>
         <source>Esecuzione comando Debug....</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+2"/>
         <source>Errore esecuzione</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+1"/>
         <source>Lettura temperatura finale...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+27"/>
         <source>Power Device</source>
         <translation type="unfinished"></translation>
     </message>
@@ -571,57 +567,57 @@
 <context>
     <name>DialogSweepBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogsweepbrask.cpp" line="+30"/>
+        <location filename="../../../debugbrask/dialogsweepbrask.cpp" line="+10"/>
         <source>Sweep_Brask</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Sweep_brask</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+0"/>
         <source>Target:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>List:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Temp Start: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Temp Stop: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+0"/>
         <source>Esegui</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Visualizza Dati</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+0"/>
         <source>exit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+49"/>
+        <location line="+1"/>
         <source>Tensione di Gate da Impostare</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+0"/>
         <source>Tensione di Gate inserita.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -636,17 +632,17 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+0"/>
         <source>Errore</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+1"/>
         <source>Esecuzione comando...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+40"/>
+        <location line="+16"/>
         <source>Power Device</source>
         <translation type="unfinished"></translation>
     </message>
@@ -777,12 +773,12 @@
 <context>
     <name>DialogViewDataMeaBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewdatameabrask.cpp" line="+22"/>
+        <location filename="../../../debugbrask/dialogviewdatameabrask.cpp" line="+14"/>
         <source>View Data Mea Brask Unit User</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+1"/>
         <source>Num.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -807,12 +803,12 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Save</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -820,12 +816,12 @@
 <context>
     <name>DialogViewDataMeaBraskDebug</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewdatameabraskdebug.cpp" line="+23"/>
+        <location filename="../../../debugbrask/dialogviewdatameabraskdebug.cpp" line="+15"/>
         <source>View Data Mea Brask Unit Debug</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+1"/>
         <source>Num.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -860,12 +856,12 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Save</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -873,12 +869,12 @@
 <context>
     <name>DialogViewSweepBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewsweepbrask.cpp" line="+20"/>
+        <location filename="../../../debugbrask/dialogviewsweepbrask.cpp" line="+13"/>
         <source>View Data Sweep Brask Unit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+1"/>
         <source>Num.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -903,12 +899,12 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Save</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -916,12 +912,12 @@
 <context>
     <name>DialogViewZKillDataBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewzkilldatabrask.cpp" line="+21"/>
+        <location filename="../../../debugbrask/dialogviewzkilldatabrask.cpp" line="+14"/>
         <source>View Data Z Kill Brask Unit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+1"/>
         <source>Num.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -946,12 +942,12 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Save</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -959,12 +955,12 @@
 <context>
     <name>DialogViewZTstDataBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewztstdatabrask.cpp" line="+20"/>
+        <location filename="../../../debugbrask/dialogviewztstdatabrask.cpp" line="+13"/>
         <source>View Data Z Tst Brask Unit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+1"/>
         <source>Num.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -989,12 +985,12 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Save</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1002,64 +998,62 @@
 <context>
     <name>DialogVoltMean</name>
     <message>
-        <location filename="../../../debugbrask/dialogvoltmean.cpp" line="+23"/>
+        <location filename="../../../debugbrask/dialogvoltmean.cpp" line="+9"/>
         <source>Volt Mean</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Volt_mean</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+0"/>
         <source>---- (hex)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>---- (dec)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>---- (V)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+1"/>
         <source>Esegui</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>exit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+0"/>
         <source>Range:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Lettura:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+0"/>
         <source>Esecuzione comando....</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
-        <location line="+1"/>
         <location line="+1"/>
         <source>Err.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+23"/>
+        <location line="+20"/>
         <source>Power Device</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1112,57 +1106,57 @@
 <context>
     <name>DialogZKillBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogzkillbrask.cpp" line="+30"/>
+        <location filename="../../../debugbrask/dialogzkillbrask.cpp" line="+10"/>
         <source>Kill_Brask</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Kill_brask</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+0"/>
         <source>Target:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>List:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Temp Start: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Temp Stop: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+0"/>
         <source>Esegui</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Visualizza Dati</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+0"/>
         <source>exit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+49"/>
+        <location line="+1"/>
         <source>Tensione di Gate da Impostare</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+0"/>
         <source>Tensione di Gate inserita.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1177,17 +1171,17 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+0"/>
         <source>Errore</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+1"/>
         <source>Esecuzione comando...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+41"/>
+        <location line="+16"/>
         <source>Power Device</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1240,62 +1234,62 @@
 <context>
     <name>DialogZTstBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogztstbrask.cpp" line="+32"/>
+        <location filename="../../../debugbrask/dialogztstbrask.cpp" line="+19"/>
         <source>Tst_Brask</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>tst_brask</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+0"/>
         <source>Target:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>List:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+0"/>
         <source>Temp Start: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Temp Stop: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+0"/>
         <source>Esegui</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+4"/>
         <source>Esegui Sweep</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="-4"/>
         <source>Visualizza Dati</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+0"/>
         <source>exit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+51"/>
+        <location line="+1"/>
         <source>Tensione di Gate da Impostare</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+0"/>
         <source>Tensione di Gate inserita.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1310,18 +1304,17 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+0"/>
         <source>Errore</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
-        <location line="+32"/>
+        <location line="+1"/>
         <source>Esecuzione comando...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+42"/>
+        <location line="+47"/>
         <source>Power Device</source>
         <translation type="unfinished"></translation>
     </message>
