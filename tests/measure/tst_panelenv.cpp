@@ -1,8 +1,12 @@
+#include "data/datameasures.h"
 #include "measure/dialogambiente.h"
 #include "measure/dialogrs.h"
+#include "measure/dialogviewrs.h"
 #include "measure/panelfixture.h"
+#include "measure/screenkinds.h"
 #include "support/modaldriver.h"
 
+#include <QDir>
 #include <QLabel>
 #include <cmath>
 
@@ -28,6 +32,41 @@ class TestPanelEnv : public QObject
             QTest::qWait(10);
         }
         return false;
+    }
+
+    // Takes the series resistance at 900 then 600 W/m2 from "Rs" / "Calcolo".
+    static bool takeRs(QWidget* panel, const SimInstrument& sim, ModalDriver& driver)
+    {
+        bool ran = false;
+        driver.onWindow("DialogRs", [&](QWidget* w) {
+            DialogRs* d = qobject_cast<DialogRs*>(w);
+            QVERIFY(reads(d, 900));
+            QTest::mouseClick(d->_buttonMeasure, Qt::LeftButton);
+            QVERIFY(sim.setIrradiance(600));
+            QVERIFY(reads(d, 600));
+            QTest::mouseClick(d->_buttonMeasure, Qt::LeftButton);
+            QVERIFY(d->_done);
+            ran = true;
+            QTest::mouseClick(d->_buttonExit, Qt::LeftButton);
+        });
+        action(panel, "RsCalcolo")->trigger();
+        return ran;
+    }
+    // Saves through "Salva" and its form; reads the one saved file back.
+    static bool saveAndRead(QWidget* screen, const TestRoot& root, ModalDriver& driver,
+                            const char* folder, _meaType kind, _measure* m)
+    {
+        driver.onNext([](QWidget* w) { touch(w, "Salva"); });
+        driver.answerBox();
+        touch(screen, "Salva");
+        if (driver.boxes.isEmpty() || driver.boxes.last().text != "Misura Salvata.")
+            return false;
+        const QStringList files = QDir(root.path((QByteArray("/krm510data/") + folder).constData()))
+                                      .entryList(QDir::Files);
+        if (files.size() != 1)
+            return false;
+        std::memset(m, 0, sizeof *m);
+        return readMeasureData(files[0].toLatin1().constData(), m, kind) == 511;
     }
 
 private slots:
@@ -150,6 +189,56 @@ private slots:
         action(&panel, "AmbienteMisurato")->trigger();
         QCOMPARE(mode, int(PROBE_AMBIENT));
         QCOMPARE(shown, QString("31.50")); // no reference: the measure's own
+    }
+    void savedModuleMeasureCarriesTheSeriesResistanceShownAndBothIrradiances()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        configure(root);
+        QVERIFY(world(sim, 900, 40));
+        ModalDriver driver;
+        PanelIV panel(nullptr);
+        panel.show();
+        touch(&panel, "Start");
+        QVERIFY(panel._measureDone);
+        QVERIFY(takeRs(&panel, sim, driver));
+        QVERIFY(panel._rsDone);
+        QString shown;
+        driver.onWindow("DialogViewRs", [&](QWidget* w) {
+            shown = w->findChild<QLabel*>("Rs")->text();
+            QTest::keyClick(w, Qt::Key_Escape);
+        });
+        action(&panel, "RsMisurato")->trigger();
+        _measure m;
+        QVERIFY(saveAndRead(&panel, root, driver, "datameapanel", MEA_PANEL, &m));
+        QCOMPARE(int(m.mrstest), 1);
+        QCOMPARE(m.mrs, panel._rs);
+        QCOMPARE(QString::number(m.mrs, 'f', 2), shown);
+        QVERIFY2(std::fabs(m.mrsi1 - 900) < 0.5f, qPrintable(QString::number(m.mrsi1)));
+        QVERIFY2(std::fabs(m.mrsi2 - 600) < 0.5f, qPrintable(QString::number(m.mrsi2)));
+        QCOMPARE(m.mrsi1, panel._rsI1);
+        QCOMPARE(m.mrsi2, panel._rsI2);
+        freeMeasureData(&m);
+    }
+    void savedStringMeasureCarriesNoSeriesResistance()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        configure(root);
+        QVERIFY(world(sim, 850, 45));
+        ModalDriver driver;
+        StringIV screen(nullptr);
+        screen.show();
+        screenkinds::enterCount(driver, 4);
+        touch(&screen, "Start");
+        QVERIFY(screen._measureDone);
+        _measure m;
+        QVERIFY(saveAndRead(&screen, root, driver, "datameastring", MEA_STRING, &m));
+        QCOMPARE(int(m.mrstest), 0);
+        QCOMPARE(m.mrs, 0.0f);
+        QCOMPARE(m.mrsi1, 0.0f);
+        QCOMPARE(m.mrsi2, 0.0f);
+        freeMeasureData(&m);
     }
 };
 
