@@ -240,6 +240,62 @@ private slots:
         QCOMPARE(m.mrsi2, 0.0f);
         freeMeasureData(&m);
     }
+    void measuredRsOpensTheStoredResultAndEscapeClosesIt()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        configure(root);
+        QVERIFY(world(sim, 900, 40));
+        ModalDriver driver;
+        PanelIV panel(nullptr);
+        panel.show();
+        touch(&panel, "Start");
+        QVERIFY(panel._measureDone);
+        QVERIFY(takeRs(&panel, sim, driver));
+        QString rs, irr1, irr2;
+        bool closed = false;
+        driver.onWindow("DialogViewRs", [&](QWidget* w) {
+            rs = w->findChild<QLabel*>("Rs")->text();
+            irr1 = w->findChild<QLabel*>("Irr. 1")->text();
+            irr2 = w->findChild<QLabel*>("Irr. 2")->text();
+            QTest::keyClick(w, Qt::Key_Escape);
+            closed = !w->isVisible();
+        });
+        action(&panel, "RsMisurato")->trigger();
+        QVERIFY(closed);
+        QCOMPARE(rs, QString::number(panel._rs, 'f', 2));
+        QCOMPARE(irr1, QString::number(panel._rsI1, 'f', 2));
+        QCOMPARE(irr2, QString::number(panel._rsI2, 'f', 2));
+    }
+    void stringMeasuredEnvironmentShowsTheMeasureStill()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        configure(root, [](_configParam& c) { c.tprobe = PROBE_MODULE; });
+        QVERIFY(world(sim, 850, 45));
+        ModalDriver driver;
+        StringIV screen(nullptr);
+        screen.show();
+        screenkinds::enterCount(driver, 4);
+        touch(&screen, "Start");
+        QVERIFY(screen._measureDone);
+        bool live = true;
+        QString t, g;
+        int mode = -1;
+        driver.onWindow("DialogAmbiente", [&](QWidget* w) {
+            DialogAmbiente* d = qobject_cast<DialogAmbiente*>(w);
+            live = d->_realTime;
+            t = d->_labelTemperature->text();
+            g = d->_labelIrradiance->text();
+            mode = d->_probe;
+            QTest::keyClick(w, Qt::Key_Escape);
+        });
+        action(&screen, "AmbienteMisurato")->trigger();
+        QVERIFY(!live);
+        QCOMPARE(mode, int(PROBE_MODULE));
+        QCOMPARE(t, QString::number(screen._temperature, 'f', 2));
+        QCOMPARE(g, QString::number(screen._irradiance, 'f', 2));
+    }
 };
 
 QTEST_MAIN(TestPanelEnv)
