@@ -69,6 +69,40 @@ class TestPanelEnv : public QObject
         return readMeasureData(files[0].toLatin1().constData(), m, kind) == 511;
     }
 
+    struct Seen {
+        int probe = -1;
+        float gain = 0, offset = 0, typed = 0;
+        bool live = false;
+    };
+    // Opens the live environment from "Misure" with a probe mode and settings.
+    static Seen liveWith(_probeTemp mode)
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        configure(root, [mode](_configParam& c) {
+            c.tprobe = mode;
+            c.utemp = 31.5f;
+            c.tmenv = 1.25f;
+            c.toenv = -2.5f;
+            c.tmmod = 1.75f;
+            c.tomod = 3.5f;
+        });
+        Seen seen;
+        if (!world(sim, 800, 40))
+            return seen;
+        ModalDriver driver;
+        driver.onWindow("DialogAmbiente", [&](QWidget* w) {
+            DialogAmbiente* d = qobject_cast<DialogAmbiente*>(w);
+            seen = {d->_probe, d->_gain, d->_offset, d->_temperature, d->_realTime};
+            QTest::keyClick(w, Qt::Key_Escape);
+        });
+        PanelIV panel(nullptr);
+        panel.show();
+        child<QPushButton>(&panel, "Misure")->setFocus();
+        QTest::keyClick(&panel, Qt::Key_Return);
+        return seen;
+    }
+
 private slots:
     void seriesResistanceAtTwoIrradiancesIsVmppOverImppAndSurvivesAFailedMeasure()
     {
@@ -295,6 +329,30 @@ private slots:
         QCOMPARE(mode, int(PROBE_MODULE));
         QCOMPARE(t, QString::number(screen._temperature, 'f', 2));
         QCOMPARE(g, QString::number(screen._irradiance, 'f', 2));
+    }
+    void liveEnvironmentOfTheAmbientProbeTakesTheAmbientCalibration()
+    {
+        const Seen s = liveWith(PROBE_AMBIENT);
+        QVERIFY(s.live);
+        QCOMPARE(s.probe, int(PROBE_AMBIENT));
+        QCOMPARE(s.gain, 1.25f);
+        QCOMPARE(s.offset, -2.5f);
+    }
+    void liveEnvironmentOfTheModuleProbeTakesTheModuleCalibration()
+    {
+        const Seen s = liveWith(PROBE_MODULE);
+        QVERIFY(s.live);
+        QCOMPARE(s.probe, int(PROBE_MODULE));
+        QCOMPARE(s.gain, 1.75f);
+        QCOMPARE(s.offset, 3.5f);
+    }
+    void liveEnvironmentOfTheAutomaticModeTakesTheModuleCalibration()
+    {
+        const Seen s = liveWith(PROBE_AUTO);
+        QVERIFY(s.live);
+        QCOMPARE(s.probe, int(PROBE_AUTO));
+        QCOMPARE(s.gain, 1.75f);
+        QCOMPARE(s.offset, 3.5f);
     }
 };
 
