@@ -354,6 +354,56 @@ private slots:
         QCOMPARE(s.gain, 1.75f);
         QCOMPARE(s.offset, 3.5f);
     }
+    void measuredEnvironmentOfTheModuleProbeShowsTheMeasuredTemperatureAsIs()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        configure(root, [](_configParam& c) { c.tprobe = PROBE_MODULE; });
+        QVERIFY(world(sim, 800, 40));
+        ModalDriver driver;
+        PanelIV panel(nullptr);
+        panel.show();
+        touch(&panel, "Start");
+        QVERIFY(panel._measureDone);
+        const float before = panel._temperature;
+        QString t, g;
+        int mode = -1;
+        driver.onWindow("DialogAmbiente", [&](QWidget* w) {
+            DialogAmbiente* d = qobject_cast<DialogAmbiente*>(w);
+            t = d->_labelTemperature->text();
+            g = d->_labelIrradiance->text();
+            mode = d->_probe;
+            QTest::keyClick(w, Qt::Key_Escape);
+        });
+        action(&panel, "AmbienteMisurato")->trigger();
+        QCOMPARE(mode, int(PROBE_MODULE));
+        QCOMPARE(t, QString::number(before, 'f', 2));
+        QCOMPARE(g, QString::number(panel._irradiance, 'f', 2));
+        QCOMPARE(panel._temperature, before);
+    }
+    void measuredEnvironmentOfTheAutomaticModeWithoutAModuleShowsDashes()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        configure(root, [](_configParam& c) { c.tprobe = PROBE_AUTO; });
+        QVERIFY(world(sim, 800, 40));
+        ModalDriver driver;
+        PanelIV panel(nullptr);
+        panel.show();
+        touch(&panel, "Start");
+        QVERIFY(panel._measureDone);
+        QString t;
+        int mode = -1;
+        driver.onWindow("DialogAmbiente", [&](QWidget* w) {
+            DialogAmbiente* d = qobject_cast<DialogAmbiente*>(w);
+            t = d->_labelTemperature->text();
+            mode = d->_probe;
+            QTest::keyClick(w, Qt::Key_Escape);
+        });
+        action(&panel, "AmbienteMisurato")->trigger();
+        QCOMPARE(mode, int(PROBE_AUTO));
+        QCOMPARE(t, QString("----"));
+    }
 };
 
 QTEST_MAIN(TestPanelEnv)
