@@ -119,20 +119,7 @@ private slots:
         QVERIFY(panel._measureDone);
         QVERIFY(action(&panel, "AmbienteMisurato")->isEnabled());
         const float expected = panel._vmpp / panel._impp;
-        bool ran = false;
-        driver.onWindow("DialogRs", [&](QWidget* w) {
-            DialogRs* d = qobject_cast<DialogRs*>(w);
-            QVERIFY(reads(d, 900));
-            QTest::mouseClick(d->_buttonMeasure, Qt::LeftButton);
-            QVERIFY(sim.setIrradiance(600));
-            QVERIFY(reads(d, 600));
-            QTest::mouseClick(d->_buttonMeasure, Qt::LeftButton);
-            QVERIFY(d->_done);
-            ran = true;
-            QTest::mouseClick(d->_buttonExit, Qt::LeftButton);
-        });
-        action(&panel, "RsCalcolo")->trigger();
-        QVERIFY(ran);
+        QVERIFY(takeRs(&panel, sim, driver));
         QVERIFY(panel._rsDone);
         // within 5 % of the module screen's Vmpp / Impp (see the closing note:
         // the ratio comes out about 4 % lower than the screen's)
