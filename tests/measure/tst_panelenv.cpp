@@ -1,8 +1,12 @@
+#include "data/datameasures.h"
 #include "measure/dialogambiente.h"
 #include "measure/dialogrs.h"
+#include "measure/dialogviewrs.h"
 #include "measure/panelfixture.h"
+#include "measure/screenkinds.h"
 #include "support/modaldriver.h"
 
+#include <QDir>
 #include <QLabel>
 #include <cmath>
 
@@ -30,6 +34,75 @@ class TestPanelEnv : public QObject
         return false;
     }
 
+    // Takes the series resistance at 900 then 600 W/m2 from "Rs" / "Calcolo".
+    static bool takeRs(QWidget* panel, const SimInstrument& sim, ModalDriver& driver)
+    {
+        bool ran = false;
+        driver.onWindow("DialogRs", [&](QWidget* w) {
+            DialogRs* d = qobject_cast<DialogRs*>(w);
+            QVERIFY(reads(d, 900));
+            QTest::mouseClick(d->_buttonMeasure, Qt::LeftButton);
+            QVERIFY(sim.setIrradiance(600));
+            QVERIFY(reads(d, 600));
+            QTest::mouseClick(d->_buttonMeasure, Qt::LeftButton);
+            QVERIFY(d->_done);
+            ran = true;
+            QTest::mouseClick(d->_buttonExit, Qt::LeftButton);
+        });
+        action(panel, "RsCalcolo")->trigger();
+        return ran;
+    }
+    // Saves through "Salva" and its form; reads the one saved file back.
+    static bool saveAndRead(QWidget* screen, const TestRoot& root, ModalDriver& driver,
+                            const char* folder, _meaType kind, _measure* m)
+    {
+        driver.onNext([](QWidget* w) { touch(w, "Salva"); });
+        driver.answerBox();
+        touch(screen, "Salva");
+        if (driver.boxes.isEmpty() || driver.boxes.last().text != "Misura Salvata.")
+            return false;
+        const QStringList files = QDir(root.path((QByteArray("/krm510data/") + folder).constData()))
+                                      .entryList(QDir::Files);
+        if (files.size() != 1)
+            return false;
+        std::memset(m, 0, sizeof *m);
+        return readMeasureData(files[0].toLatin1().constData(), m, kind) == 511;
+    }
+
+    struct Seen {
+        int probe = -1;
+        float gain = 0, offset = 0, typed = 0;
+        bool live = false;
+    };
+    // Opens the live environment from "Misure" with a probe mode and settings.
+    static Seen liveWith(_probeTemp mode)
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        configure(root, [mode](_configParam& c) {
+            c.tprobe = mode;
+            c.utemp = 31.5f;
+            c.tmenv = 1.25f;
+            c.toenv = -2.5f;
+            c.tmmod = 1.75f;
+            c.tomod = 3.5f;
+        });
+        Seen seen;
+        if (!world(sim, 800, 40))
+            return seen;
+        ModalDriver driver;
+        driver.onWindow("DialogAmbiente", [&](QWidget* w) {
+            DialogAmbiente* d = qobject_cast<DialogAmbiente*>(w);
+            seen = {d->_probe, d->_gain, d->_offset, d->_temperature, d->_realTime};
+            QTest::keyClick(w, Qt::Key_Escape);
+        });
+        PanelIV panel(nullptr);
+        panel.show();
+        child<QPushButton>(&panel, "Misure")->setFocus();
+        QTest::keyClick(&panel, Qt::Key_Return);
+        return seen;
+    }
+
 private slots:
     void seriesResistanceAtTwoIrradiancesIsVmppOverImppAndSurvivesAFailedMeasure()
     {
@@ -46,20 +119,7 @@ private slots:
         QVERIFY(panel._measureDone);
         QVERIFY(action(&panel, "AmbienteMisurato")->isEnabled());
         const float expected = panel._vmpp / panel._impp;
-        bool ran = false;
-        driver.onWindow("DialogRs", [&](QWidget* w) {
-            DialogRs* d = qobject_cast<DialogRs*>(w);
-            QVERIFY(reads(d, 900));
-            QTest::mouseClick(d->_buttonMeasure, Qt::LeftButton);
-            QVERIFY(sim.setIrradiance(600));
-            QVERIFY(reads(d, 600));
-            QTest::mouseClick(d->_buttonMeasure, Qt::LeftButton);
-            QVERIFY(d->_done);
-            ran = true;
-            QTest::mouseClick(d->_buttonExit, Qt::LeftButton);
-        });
-        action(&panel, "RsCalcolo")->trigger();
-        QVERIFY(ran);
+        QVERIFY(takeRs(&panel, sim, driver));
         QVERIFY(panel._rsDone);
         // within 5 % of the module screen's Vmpp / Impp (see the closing note:
         // the ratio comes out about 4 % lower than the screen's)
@@ -150,6 +210,186 @@ private slots:
         action(&panel, "AmbienteMisurato")->trigger();
         QCOMPARE(mode, int(PROBE_AMBIENT));
         QCOMPARE(shown, QString("31.50")); // no reference: the measure's own
+    }
+    void savedModuleMeasureCarriesTheSeriesResistanceShownAndBothIrradiances()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        configure(root);
+        QVERIFY(world(sim, 900, 40));
+        ModalDriver driver;
+        PanelIV panel(nullptr);
+        panel.show();
+        touch(&panel, "Start");
+        QVERIFY(panel._measureDone);
+        QVERIFY(takeRs(&panel, sim, driver));
+        QVERIFY(panel._rsDone);
+        QString shown;
+        driver.onWindow("DialogViewRs", [&](QWidget* w) {
+            shown = w->findChild<QLabel*>("Rs")->text();
+            QTest::keyClick(w, Qt::Key_Escape);
+        });
+        action(&panel, "RsMisurato")->trigger();
+        _measure m;
+        QVERIFY(saveAndRead(&panel, root, driver, "datameapanel", MEA_PANEL, &m));
+        QCOMPARE(int(m.mrstest), 1);
+        QCOMPARE(m.mrs, panel._rs);
+        QCOMPARE(QString::number(m.mrs, 'f', 2), shown);
+        QVERIFY2(std::fabs(m.mrsi1 - 900) < 0.5f, qPrintable(QString::number(m.mrsi1)));
+        QVERIFY2(std::fabs(m.mrsi2 - 600) < 0.5f, qPrintable(QString::number(m.mrsi2)));
+        QCOMPARE(m.mrsi1, panel._rsI1);
+        QCOMPARE(m.mrsi2, panel._rsI2);
+        freeMeasureData(&m);
+    }
+    void savedStringMeasureCarriesNoSeriesResistance()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        configure(root);
+        QVERIFY(world(sim, 850, 45));
+        ModalDriver driver;
+        StringIV screen(nullptr);
+        screen.show();
+        screenkinds::enterCount(driver, 4);
+        touch(&screen, "Start");
+        QVERIFY(screen._measureDone);
+        _measure m;
+        QVERIFY(saveAndRead(&screen, root, driver, "datameastring", MEA_STRING, &m));
+        QCOMPARE(int(m.mrstest), 0);
+        QCOMPARE(m.mrs, 0.0f);
+        QCOMPARE(m.mrsi1, 0.0f);
+        QCOMPARE(m.mrsi2, 0.0f);
+        freeMeasureData(&m);
+    }
+    void measuredRsOpensTheStoredResultAndEscapeClosesIt()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        configure(root);
+        QVERIFY(world(sim, 900, 40));
+        ModalDriver driver;
+        PanelIV panel(nullptr);
+        panel.show();
+        touch(&panel, "Start");
+        QVERIFY(panel._measureDone);
+        QVERIFY(takeRs(&panel, sim, driver));
+        QString rs, irr1, irr2;
+        bool closed = false;
+        driver.onWindow("DialogViewRs", [&](QWidget* w) {
+            rs = w->findChild<QLabel*>("Rs")->text();
+            irr1 = w->findChild<QLabel*>("Irr. 1")->text();
+            irr2 = w->findChild<QLabel*>("Irr. 2")->text();
+            QTest::keyClick(w, Qt::Key_Escape);
+            closed = !w->isVisible();
+        });
+        action(&panel, "RsMisurato")->trigger();
+        QVERIFY(closed);
+        QCOMPARE(rs, QString::number(panel._rs, 'f', 2));
+        QCOMPARE(irr1, QString::number(panel._rsI1, 'f', 2));
+        QCOMPARE(irr2, QString::number(panel._rsI2, 'f', 2));
+    }
+    void stringMeasuredEnvironmentShowsTheMeasureStill()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        configure(root, [](_configParam& c) { c.tprobe = PROBE_MODULE; });
+        QVERIFY(world(sim, 850, 45));
+        ModalDriver driver;
+        StringIV screen(nullptr);
+        screen.show();
+        screenkinds::enterCount(driver, 4);
+        touch(&screen, "Start");
+        QVERIFY(screen._measureDone);
+        bool live = true;
+        QString t, g;
+        int mode = -1;
+        driver.onWindow("DialogAmbiente", [&](QWidget* w) {
+            DialogAmbiente* d = qobject_cast<DialogAmbiente*>(w);
+            live = d->_realTime;
+            t = d->_labelTemperature->text();
+            g = d->_labelIrradiance->text();
+            mode = d->_probe;
+            QTest::keyClick(w, Qt::Key_Escape);
+        });
+        action(&screen, "AmbienteMisurato")->trigger();
+        QVERIFY(!live);
+        QCOMPARE(mode, int(PROBE_MODULE));
+        QCOMPARE(t, QString::number(screen._temperature, 'f', 2));
+        QCOMPARE(g, QString::number(screen._irradiance, 'f', 2));
+    }
+    void liveEnvironmentOfTheAmbientProbeTakesTheAmbientCalibration()
+    {
+        const Seen s = liveWith(PROBE_AMBIENT);
+        QVERIFY(s.live);
+        QCOMPARE(s.probe, int(PROBE_AMBIENT));
+        QCOMPARE(s.gain, 1.25f);
+        QCOMPARE(s.offset, -2.5f);
+    }
+    void liveEnvironmentOfTheModuleProbeTakesTheModuleCalibration()
+    {
+        const Seen s = liveWith(PROBE_MODULE);
+        QVERIFY(s.live);
+        QCOMPARE(s.probe, int(PROBE_MODULE));
+        QCOMPARE(s.gain, 1.75f);
+        QCOMPARE(s.offset, 3.5f);
+    }
+    void liveEnvironmentOfTheAutomaticModeTakesTheModuleCalibration()
+    {
+        const Seen s = liveWith(PROBE_AUTO);
+        QVERIFY(s.live);
+        QCOMPARE(s.probe, int(PROBE_AUTO));
+        QCOMPARE(s.gain, 1.75f);
+        QCOMPARE(s.offset, 3.5f);
+    }
+    void measuredEnvironmentOfTheModuleProbeShowsTheMeasuredTemperatureAsIs()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        configure(root, [](_configParam& c) { c.tprobe = PROBE_MODULE; });
+        QVERIFY(world(sim, 800, 40));
+        ModalDriver driver;
+        PanelIV panel(nullptr);
+        panel.show();
+        touch(&panel, "Start");
+        QVERIFY(panel._measureDone);
+        const float before = panel._temperature;
+        QString t, g;
+        int mode = -1;
+        driver.onWindow("DialogAmbiente", [&](QWidget* w) {
+            DialogAmbiente* d = qobject_cast<DialogAmbiente*>(w);
+            t = d->_labelTemperature->text();
+            g = d->_labelIrradiance->text();
+            mode = d->_probe;
+            QTest::keyClick(w, Qt::Key_Escape);
+        });
+        action(&panel, "AmbienteMisurato")->trigger();
+        QCOMPARE(mode, int(PROBE_MODULE));
+        QCOMPARE(t, QString::number(before, 'f', 2));
+        QCOMPARE(g, QString::number(panel._irradiance, 'f', 2));
+        QCOMPARE(panel._temperature, before);
+    }
+    void measuredEnvironmentOfTheAutomaticModeWithoutAModuleShowsDashes()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        configure(root, [](_configParam& c) { c.tprobe = PROBE_AUTO; });
+        QVERIFY(world(sim, 800, 40));
+        ModalDriver driver;
+        PanelIV panel(nullptr);
+        panel.show();
+        touch(&panel, "Start");
+        QVERIFY(panel._measureDone);
+        QString t;
+        int mode = -1;
+        driver.onWindow("DialogAmbiente", [&](QWidget* w) {
+            DialogAmbiente* d = qobject_cast<DialogAmbiente*>(w);
+            t = d->_labelTemperature->text();
+            mode = d->_probe;
+            QTest::keyClick(w, Qt::Key_Escape);
+        });
+        action(&panel, "AmbienteMisurato")->trigger();
+        QCOMPARE(mode, int(PROBE_AUTO));
+        QCOMPARE(t, QString("----"));
     }
 };
 
