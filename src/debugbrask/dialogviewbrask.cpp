@@ -82,3 +82,14 @@ void DialogViewBrask::keyPressEvent(QKeyEvent* event)
     }
     QWidget::keyPressEvent(event);
 }
+
+void DialogViewBrask::addGateRows(const _tstBrask* tst)
+{
+    for (int k = 0; k < TST_BRASK_POINTS; k++)
+        _list->addItem(QString("%1\t%2\t%3\t%4\t%5")
+                           .arg(k, 0, 10)
+                           .arg(tst->corrente[k], 0, 10)
+                           .arg(tst->tensione[k], 0, 10)
+                           .arg(tst->vGateImp[k], 0, 10)
+                           .arg(tst->vGateEff[k], 0, 10));
+}

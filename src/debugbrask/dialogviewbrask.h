@@ -1,6 +1,8 @@
 #ifndef KRM_DEBUGBRASK_DIALOGVIEWBRASK_H
 #define KRM_DEBUGBRASK_DIALOGVIEWBRASK_H
 
+#include "data/coredata.h"
+
 #include <QDialog>
 
 class InfoBar;
@@ -23,6 +25,8 @@ protected:
                const QString& exit);
     virtual void addValueOnList() = 0;
     virtual int write(char* data, char* time, char* comment) = 0;
+    // the rows of a gate sweep or a Z test: number, both counts, gate set and read
+    void addGateRows(const _tstBrask* tst);
 
     void keyPressEvent(QKeyEvent* event) override;
 
