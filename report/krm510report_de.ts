@@ -4,13 +4,13 @@
 <context>
     <name>PdfReport</name>
     <message>
-        <location filename="pdfreport.cpp" line="+95"/>
+        <location filename="pdfreport.cpp" line="+109"/>
         <source>Rapporto di prova KRM 510</source>
         <translation>KRM 510 Prüfbericht</translation>
     </message>
     <message>
         <location line="+3"/>
-        <location line="+26"/>
+        <location line="+31"/>
         <source>Impossibile scrivere %1</source>
         <translation>%1 kann nicht geschrieben werden</translation>
     </message>
@@ -20,7 +20,7 @@
         <translation>KRM 510 - Prüfbericht</translation>
     </message>
     <message>
-        <location line="+67"/>
+        <location line="+68"/>
         <source>Rapporto di prova delle curve I-V</source>
         <translation>Prüfbericht der I-U-Kennlinien</translation>
     </message>
@@ -163,7 +163,7 @@
         <translation>Messung</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Data</source>
         <translation>Datum</translation>
     </message>
@@ -208,7 +208,7 @@
         <translation>Referenzmodul</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+5"/>
         <source>Marca</source>
         <translation>Hersteller</translation>
     </message>
@@ -233,7 +233,7 @@
         <translation>Vmpp / Impp</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>NOCT</source>
         <translation>NOCT</translation>
     </message>
@@ -259,18 +259,18 @@
     </message>
     <message>
         <location line="+6"/>
-        <location line="+34"/>
-        <location line="+230"/>
+        <location line="+33"/>
+        <location line="+229"/>
         <source>nessun riferimento</source>
         <translation>keine Referenz</translation>
     </message>
     <message>
-        <location line="-259"/>
+        <location line="-257"/>
         <source>Valori misurati</source>
         <translation>Messwerte</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+12"/>
         <location line="+25"/>
         <location line="+1"/>
         <source>Condizioni operative</source>
@@ -340,7 +340,7 @@
         <translation>Leistung (W)</translation>
     </message>
     <message>
-        <location line="+82"/>
+        <location line="+84"/>
         <source>Confronto delle stringhe</source>
         <translation>Vergleich der Strings</translation>
     </message>
@@ -407,7 +407,7 @@
         <translation>Abweichung vom Median %1</translation>
     </message>
     <message>
-        <location line="+43"/>
+        <location line="+41"/>
         <source>Stringhe non confrontate</source>
         <translation>Nicht verglichene Strings</translation>
     </message>
@@ -420,7 +420,7 @@
 <context>
     <name>ReportMain</name>
     <message>
-        <location filename="main.cpp" line="+46"/>
+        <location filename="main.cpp" line="+47"/>
         <source>data non valida per --%1: %2 (aaaa-MM-gg)</source>
         <translation>ungültiges Datum für --%1: %2 (JJJJ-MM-TT)</translation>
     </message>
@@ -430,12 +430,12 @@
         <translation>Prüfbericht der Messungen des KRM 510, als PDF und CSV.</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+5"/>
         <source>La cartella krm510data (copia della chiavetta) o la cartella che la contiene.</source>
         <translation>Der Ordner krm510data (Kopie des USB-Sticks) oder der Ordner, der ihn enthält.</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+5"/>
         <source>Con --measures: i file delle misure.</source>
         <translation>Mit --measures: die Messdateien.</translation>
     </message>
@@ -445,42 +445,42 @@
         <translation>Der Bericht einer Anlage.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+3"/>
         <source>Il rapporto di tutti gli impianti di una ditta.</source>
         <translation>Der Bericht aller Anlagen einer Firma.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+4"/>
         <source>Il rapporto delle misure nominate.</source>
         <translation>Der Bericht der genannten Messungen.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Solo le misure da questa data (aaaa-MM-gg).</source>
         <translation>Nur Messungen ab diesem Datum (JJJJ-MM-TT).</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+3"/>
         <source>Solo le misure fino a questa data (aaaa-MM-gg).</source>
         <translation>Nur Messungen bis zu diesem Datum (JJJJ-MM-TT).</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+4"/>
         <source>Lingua del rapporto: it, en, fr, de, es.</source>
         <translation>Sprache des Berichts: it, en, fr, de, es.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Il nome dell&apos;ispettore.</source>
         <translation>Der Name des Prüfers.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Il file PDF da scrivere.</source>
         <translation>Die zu schreibende PDF-Datei.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>La cartella dei file CSV da scrivere.</source>
         <translation>Der Ordner der zu schreibenden CSV-Dateien.</translation>
     </message>
@@ -490,22 +490,22 @@
         <translation>Aufruf: krm510-report DATEN (--installation NAME | --company NAME | --measures DATEI...) (-o bericht.pdf | --csv ORDNER)</translation>
     </message>
     <message>
-        <location line="+18"/>
+        <location line="+20"/>
         <source>cartella dei dati non trovata: %1</source>
         <translation>Datenordner nicht gefunden: %1</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+9"/>
         <source>cartella dei dati non leggibile: %1</source>
         <translation>Datenordner nicht lesbar: %1</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+12"/>
         <source>Lettura misure</source>
         <translation>Messungen lesen</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+17"/>
         <source>lasciato fuori %1: %2</source>
         <translation>ausgelassen %1: %2</translation>
     </message>
@@ -523,7 +523,7 @@
 <context>
     <name>ReportMeasure</name>
     <message>
-        <location filename="reportmeasure.cpp" line="+45"/>
+        <location filename="reportmeasure.cpp" line="+46"/>
         <source>file illeggibile</source>
         <translation>Datei nicht lesbar</translation>
     </message>
@@ -571,7 +571,7 @@
 <context>
     <name>ReportSelection</name>
     <message>
-        <location filename="reportselection.cpp" line="+49"/>
+        <location filename="reportselection.cpp" line="+50"/>
         <source>Impianto non trovato: %1</source>
         <translation>Anlage nicht gefunden: %1</translation>
     </message>

@@ -4,13 +4,13 @@
 <context>
     <name>PdfReport</name>
     <message>
-        <location filename="pdfreport.cpp" line="+95"/>
+        <location filename="pdfreport.cpp" line="+109"/>
         <source>Rapporto di prova KRM 510</source>
         <translation>KRM 510 test report</translation>
     </message>
     <message>
         <location line="+3"/>
-        <location line="+26"/>
+        <location line="+31"/>
         <source>Impossibile scrivere %1</source>
         <translation>Cannot write %1</translation>
     </message>
@@ -20,7 +20,7 @@
         <translation>KRM 510 - Test report</translation>
     </message>
     <message>
-        <location line="+67"/>
+        <location line="+68"/>
         <source>Rapporto di prova delle curve I-V</source>
         <translation>I-V curve test report</translation>
     </message>
@@ -163,7 +163,7 @@
         <translation>Measure</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Data</source>
         <translation>Date</translation>
     </message>
@@ -208,7 +208,7 @@
         <translation>Reference module</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+5"/>
         <source>Marca</source>
         <translation>Make</translation>
     </message>
@@ -233,7 +233,7 @@
         <translation>Vmpp / Impp</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>NOCT</source>
         <translation>NOCT</translation>
     </message>
@@ -259,18 +259,18 @@
     </message>
     <message>
         <location line="+6"/>
-        <location line="+34"/>
-        <location line="+230"/>
+        <location line="+33"/>
+        <location line="+229"/>
         <source>nessun riferimento</source>
         <translation>no reference</translation>
     </message>
     <message>
-        <location line="-259"/>
+        <location line="-257"/>
         <source>Valori misurati</source>
         <translation>Measured values</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+12"/>
         <location line="+25"/>
         <location line="+1"/>
         <source>Condizioni operative</source>
@@ -340,7 +340,7 @@
         <translation>Power (W)</translation>
     </message>
     <message>
-        <location line="+82"/>
+        <location line="+84"/>
         <source>Confronto delle stringhe</source>
         <translation>Comparison of the strings</translation>
     </message>
@@ -407,7 +407,7 @@
         <translation>deviation from the median %1</translation>
     </message>
     <message>
-        <location line="+43"/>
+        <location line="+41"/>
         <source>Stringhe non confrontate</source>
         <translation>Strings not compared</translation>
     </message>
@@ -420,7 +420,7 @@
 <context>
     <name>ReportMain</name>
     <message>
-        <location filename="main.cpp" line="+46"/>
+        <location filename="main.cpp" line="+47"/>
         <source>data non valida per --%1: %2 (aaaa-MM-gg)</source>
         <translation>invalid date for --%1: %2 (yyyy-MM-dd)</translation>
     </message>
@@ -430,12 +430,12 @@
         <translation>Test report of the KRM 510 measures, as PDF and CSV.</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+5"/>
         <source>La cartella krm510data (copia della chiavetta) o la cartella che la contiene.</source>
         <translation>The krm510data folder (copy of the stick) or the folder that holds it.</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+5"/>
         <source>Con --measures: i file delle misure.</source>
         <translation>With --measures: the measure files.</translation>
     </message>
@@ -445,42 +445,42 @@
         <translation>The report of one installation.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+3"/>
         <source>Il rapporto di tutti gli impianti di una ditta.</source>
         <translation>The report of all installations of a company.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+4"/>
         <source>Il rapporto delle misure nominate.</source>
         <translation>The report of the measures named.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Solo le misure da questa data (aaaa-MM-gg).</source>
         <translation>Only the measures from this date (yyyy-MM-dd).</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+3"/>
         <source>Solo le misure fino a questa data (aaaa-MM-gg).</source>
         <translation>Only the measures up to this date (yyyy-MM-dd).</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+4"/>
         <source>Lingua del rapporto: it, en, fr, de, es.</source>
         <translation>Language of the report: it, en, fr, de, es.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Il nome dell&apos;ispettore.</source>
         <translation>The name of the inspector.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Il file PDF da scrivere.</source>
         <translation>The PDF file to write.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>La cartella dei file CSV da scrivere.</source>
         <translation>The folder of the CSV files to write.</translation>
     </message>
@@ -490,22 +490,22 @@
         <translation>usage: krm510-report DATA (--installation NAME | --company NAME | --measures FILE...) (-o report.pdf | --csv DIR)</translation>
     </message>
     <message>
-        <location line="+18"/>
+        <location line="+20"/>
         <source>cartella dei dati non trovata: %1</source>
         <translation>data folder not found: %1</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+9"/>
         <source>cartella dei dati non leggibile: %1</source>
         <translation>data folder not readable: %1</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+12"/>
         <source>Lettura misure</source>
         <translation>Reading measures</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+17"/>
         <source>lasciato fuori %1: %2</source>
         <translation>left out %1: %2</translation>
     </message>
@@ -523,7 +523,7 @@
 <context>
     <name>ReportMeasure</name>
     <message>
-        <location filename="reportmeasure.cpp" line="+45"/>
+        <location filename="reportmeasure.cpp" line="+46"/>
         <source>file illeggibile</source>
         <translation>unreadable file</translation>
     </message>
@@ -571,7 +571,7 @@
 <context>
     <name>ReportSelection</name>
     <message>
-        <location filename="reportselection.cpp" line="+49"/>
+        <location filename="reportselection.cpp" line="+50"/>
         <source>Impianto non trovato: %1</source>
         <translation>Installation not found: %1</translation>
     </message>

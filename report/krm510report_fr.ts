@@ -4,13 +4,13 @@
 <context>
     <name>PdfReport</name>
     <message>
-        <location filename="pdfreport.cpp" line="+95"/>
+        <location filename="pdfreport.cpp" line="+109"/>
         <source>Rapporto di prova KRM 510</source>
         <translation>Rapport d&apos;essai KRM 510</translation>
     </message>
     <message>
         <location line="+3"/>
-        <location line="+26"/>
+        <location line="+31"/>
         <source>Impossibile scrivere %1</source>
         <translation>Impossible d&apos;écrire %1</translation>
     </message>
@@ -20,7 +20,7 @@
         <translation>KRM 510 - Rapport d&apos;essai</translation>
     </message>
     <message>
-        <location line="+67"/>
+        <location line="+68"/>
         <source>Rapporto di prova delle curve I-V</source>
         <translation>Rapport d&apos;essai des courbes I-V</translation>
     </message>
@@ -163,7 +163,7 @@
         <translation>Mesure</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Data</source>
         <translation>Date</translation>
     </message>
@@ -208,7 +208,7 @@
         <translation>Module de référence</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+5"/>
         <source>Marca</source>
         <translation>Marque</translation>
     </message>
@@ -233,7 +233,7 @@
         <translation>Vmpp / Impp</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>NOCT</source>
         <translation>NOCT</translation>
     </message>
@@ -259,18 +259,18 @@
     </message>
     <message>
         <location line="+6"/>
-        <location line="+34"/>
-        <location line="+230"/>
+        <location line="+33"/>
+        <location line="+229"/>
         <source>nessun riferimento</source>
         <translation>aucune référence</translation>
     </message>
     <message>
-        <location line="-259"/>
+        <location line="-257"/>
         <source>Valori misurati</source>
         <translation>Valeurs mesurées</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+12"/>
         <location line="+25"/>
         <location line="+1"/>
         <source>Condizioni operative</source>
@@ -340,7 +340,7 @@
         <translation>Puissance (W)</translation>
     </message>
     <message>
-        <location line="+82"/>
+        <location line="+84"/>
         <source>Confronto delle stringhe</source>
         <translation>Comparaison des chaînes</translation>
     </message>
@@ -407,7 +407,7 @@
         <translation>écart à la médiane %1</translation>
     </message>
     <message>
-        <location line="+43"/>
+        <location line="+41"/>
         <source>Stringhe non confrontate</source>
         <translation>Chaînes non comparées</translation>
     </message>
@@ -420,7 +420,7 @@
 <context>
     <name>ReportMain</name>
     <message>
-        <location filename="main.cpp" line="+46"/>
+        <location filename="main.cpp" line="+47"/>
         <source>data non valida per --%1: %2 (aaaa-MM-gg)</source>
         <translation>date invalide pour --%1 : %2 (aaaa-MM-jj)</translation>
     </message>
@@ -430,12 +430,12 @@
         <translation>Rapport d&apos;essai des mesures du KRM 510, en PDF et en CSV.</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+5"/>
         <source>La cartella krm510data (copia della chiavetta) o la cartella che la contiene.</source>
         <translation>Le dossier krm510data (copie de la clé) ou le dossier qui le contient.</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+5"/>
         <source>Con --measures: i file delle misure.</source>
         <translation>Avec --measures : les fichiers des mesures.</translation>
     </message>
@@ -445,42 +445,42 @@
         <translation>Le rapport d&apos;une installation.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+3"/>
         <source>Il rapporto di tutti gli impianti di una ditta.</source>
         <translation>Le rapport de toutes les installations d&apos;une société.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+4"/>
         <source>Il rapporto delle misure nominate.</source>
         <translation>Le rapport des mesures nommées.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Solo le misure da questa data (aaaa-MM-gg).</source>
         <translation>Seulement les mesures à partir de cette date (aaaa-MM-jj).</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+3"/>
         <source>Solo le misure fino a questa data (aaaa-MM-gg).</source>
         <translation>Seulement les mesures jusqu&apos;à cette date (aaaa-MM-jj).</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+4"/>
         <source>Lingua del rapporto: it, en, fr, de, es.</source>
         <translation>Langue du rapport : it, en, fr, de, es.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Il nome dell&apos;ispettore.</source>
         <translation>Le nom de l&apos;inspecteur.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Il file PDF da scrivere.</source>
         <translation>Le fichier PDF à écrire.</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>La cartella dei file CSV da scrivere.</source>
         <translation>Le dossier des fichiers CSV à écrire.</translation>
     </message>
@@ -490,22 +490,22 @@
         <translation>usage : krm510-report DONNÉES (--installation NOM | --company NOM | --measures FICHIER...) (-o rapport.pdf | --csv DOSSIER)</translation>
     </message>
     <message>
-        <location line="+18"/>
+        <location line="+20"/>
         <source>cartella dei dati non trovata: %1</source>
         <translation>dossier de données introuvable : %1</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+9"/>
         <source>cartella dei dati non leggibile: %1</source>
         <translation>dossier de données illisible : %1</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+12"/>
         <source>Lettura misure</source>
         <translation>Lecture des mesures</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+17"/>
         <source>lasciato fuori %1: %2</source>
         <translation>écarté %1 : %2</translation>
     </message>
@@ -523,7 +523,7 @@
 <context>
     <name>ReportMeasure</name>
     <message>
-        <location filename="reportmeasure.cpp" line="+45"/>
+        <location filename="reportmeasure.cpp" line="+46"/>
         <source>file illeggibile</source>
         <translation>fichier illisible</translation>
     </message>
@@ -571,7 +571,7 @@
 <context>
     <name>ReportSelection</name>
     <message>
-        <location filename="reportselection.cpp" line="+49"/>
+        <location filename="reportselection.cpp" line="+50"/>
         <source>Impianto non trovato: %1</source>
         <translation>Installation introuvable : %1</translation>
     </message>

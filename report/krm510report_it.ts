@@ -4,13 +4,13 @@
 <context>
     <name>PdfReport</name>
     <message>
-        <location filename="pdfreport.cpp" line="+95"/>
+        <location filename="pdfreport.cpp" line="+109"/>
         <source>Rapporto di prova KRM 510</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <location line="+3"/>
-        <location line="+26"/>
+        <location line="+31"/>
         <source>Impossibile scrivere %1</source>
         <translation type="unfinished"></translation>
     </message>
@@ -20,7 +20,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+67"/>
+        <location line="+68"/>
         <source>Rapporto di prova delle curve I-V</source>
         <translation type="unfinished"></translation>
     </message>
@@ -163,7 +163,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Data</source>
         <translation type="unfinished"></translation>
     </message>
@@ -208,7 +208,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+5"/>
         <source>Marca</source>
         <translation type="unfinished"></translation>
     </message>
@@ -233,7 +233,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>NOCT</source>
         <translation type="unfinished"></translation>
     </message>
@@ -259,18 +259,18 @@
     </message>
     <message>
         <location line="+6"/>
-        <location line="+34"/>
-        <location line="+230"/>
+        <location line="+33"/>
+        <location line="+229"/>
         <source>nessun riferimento</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="-259"/>
+        <location line="-257"/>
         <source>Valori misurati</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+12"/>
         <location line="+25"/>
         <location line="+1"/>
         <source>Condizioni operative</source>
@@ -340,7 +340,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+82"/>
+        <location line="+84"/>
         <source>Confronto delle stringhe</source>
         <translation type="unfinished"></translation>
     </message>
@@ -407,7 +407,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+43"/>
+        <location line="+41"/>
         <source>Stringhe non confrontate</source>
         <translation type="unfinished"></translation>
     </message>
@@ -420,7 +420,7 @@
 <context>
     <name>ReportMain</name>
     <message>
-        <location filename="main.cpp" line="+46"/>
+        <location filename="main.cpp" line="+47"/>
         <source>data non valida per --%1: %2 (aaaa-MM-gg)</source>
         <translation type="unfinished"></translation>
     </message>
@@ -430,12 +430,12 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+5"/>
         <source>La cartella krm510data (copia della chiavetta) o la cartella che la contiene.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+5"/>
         <source>Con --measures: i file delle misure.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -445,42 +445,42 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+3"/>
         <source>Il rapporto di tutti gli impianti di una ditta.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+4"/>
         <source>Il rapporto delle misure nominate.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Solo le misure da questa data (aaaa-MM-gg).</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+3"/>
         <source>Solo le misure fino a questa data (aaaa-MM-gg).</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+4"/>
         <source>Lingua del rapporto: it, en, fr, de, es.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Il nome dell&apos;ispettore.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Il file PDF da scrivere.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>La cartella dei file CSV da scrivere.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -490,22 +490,22 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+18"/>
+        <location line="+20"/>
         <source>cartella dei dati non trovata: %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+9"/>
         <source>cartella dei dati non leggibile: %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+12"/>
         <source>Lettura misure</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+17"/>
         <source>lasciato fuori %1: %2</source>
         <translation type="unfinished"></translation>
     </message>
@@ -523,7 +523,7 @@
 <context>
     <name>ReportMeasure</name>
     <message>
-        <location filename="reportmeasure.cpp" line="+45"/>
+        <location filename="reportmeasure.cpp" line="+46"/>
         <source>file illeggibile</source>
         <translation type="unfinished"></translation>
     </message>
@@ -571,7 +571,7 @@
 <context>
     <name>ReportSelection</name>
     <message>
-        <location filename="reportselection.cpp" line="+49"/>
+        <location filename="reportselection.cpp" line="+50"/>
         <source>Impianto non trovato: %1</source>
         <translation type="unfinished"></translation>
     </message>

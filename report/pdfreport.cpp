@@ -51,6 +51,14 @@ QString orDash(const QString& text)
     return text.trimmed().isEmpty() ? QStringLiteral("-") : text;
 }
 
+// Postcode, city and province, leaving out those not given.
+QString place(const QString& zip, const QString& city, const QString& prov)
+{
+    QStringList parts{zip.trimmed(), city.trimmed(), prov.trimmed()};
+    parts.removeAll(QString());
+    return orDash(parts.join(QLatin1Char(' ')));
+}
+
 } // namespace
 
 PdfReport::PdfReport(const ReportSelection& selection, const QLocale& locale)
@@ -262,7 +270,7 @@ void PdfReport::firstPage()
                 {tr("Partita IVA"), orDash(c.nin)},
                 {tr("Codice fiscale"), orDash(c.code)},
                 {tr("Indirizzo"), orDash(c.street)},
-                {tr("Città"), orDash(QStringList{c.zip, c.city, c.prov}.join(QLatin1Char(' ')))},
+                {tr("Città"), place(c.zip, c.city, c.prov)},
                 {tr("Telefono"), orDash(c.phone)},
                 {tr("Email"), orDash(c.email)}},
                margin, width);
@@ -272,7 +280,7 @@ void PdfReport::firstPage()
             continue;
         subheading(tr("Impianto %1").arg(i.id));
         fields({{tr("Indirizzo"), orDash(i.street)},
-                {tr("Città"), orDash(QStringList{i.zip, i.city, i.prov}.join(QLatin1Char(' ')))},
+                {tr("Città"), place(i.zip, i.city, i.prov)},
                 {tr("Numero di stringhe"), orDash(i.nstri)},
                 {tr("Potenza"), orDash(i.npowe)},
                 {tr("Misure"), QString::number(i.measures.size())}},
