@@ -521,6 +521,26 @@ private slots:
         QVERIFY(!run.err.contains("Reading measures"));
     }
 
+    // ---- How the temperature was obtained.
+
+    void temperatureSourceIsNamedForEveryProbeMode()
+    {
+        const QStringList texts{"sonda ambiente", "sonda sul modulo", "automatica da Voc",
+                                "manuale"};
+        const QStringList words{"ambient", "module", "auto", "manual"};
+        ReportInstallation installation;
+        for (int mode = PROBE_AMBIENT; mode <= PROBE_MANUAL; mode++) {
+            ReportMeasure m;
+            m.record.mprobe = mode;
+            QCOMPARE(m.probeText(), texts[mode]);
+            const QStringList cells = CsvReport::summaryRow(installation, m).split(',');
+            QCOMPARE(cells[CsvReport::summaryColumns().indexOf("temperature_source")], words[mode]);
+        }
+        ReportMeasure odd;
+        odd.record.mprobe = 7;
+        QCOMPARE(odd.probeText(), QString("sconosciuta (7)"));
+    }
+
     // ---- The comparison of strings.
 
     void comparisonMedianOfOddAndEvenCounts()
