@@ -562,31 +562,14 @@ void PanelIV::getDegrado()
     delete dialog;
 }
 
-void PanelIV::togglePowerCurve(bool stc)
-{
-    bool& own = stc ? _powerStcShown : _powerOpcShown;
-    bool& other = stc ? _powerOpcShown : _powerStcShown;
-    if (own) {
-        _plotter->clearCurve(2);
-        own = false;
-        other = false;
-        return;
-    }
-    const _ramp_iv* source = stc ? &_rampStcSmooth : &_rampSmooth;
-    _plotter->pmaxLabel = stc ? _pmaxStc : _pmax;
-    _plotter->setCurveData(2, powerPoints(source));
-    own = true;
-    other = false;
-}
-
 void PanelIV::displayPowerCurveOPC()
 {
-    togglePowerCurve(false);
+    togglePowerCurve(_plotter, false, &_powerOpcShown, &_powerStcShown, &_rampSmooth, _pmax);
 }
 
 void PanelIV::displayPowerCurveSTC()
 {
-    togglePowerCurve(true);
+    togglePowerCurve(_plotter, true, &_powerOpcShown, &_powerStcShown, &_rampStcSmooth, _pmaxStc);
 }
 
 // ---- Reference module, electrical data, save.

@@ -7,6 +7,7 @@
 #include "math/utility.h"
 #include "measure/dialogambiente.h"
 #include "platform/clock.h"
+#include "toolkit/plotter.h"
 
 #include <QProgressDialog>
 #include <QPushButton>
@@ -175,4 +176,20 @@ DialogAmbiente* measuredEnvironment(QWidget* parent, const _configParam& config,
     }
     return new DialogAmbiente(parent, false, mode, LINK_LOCAL, shown, irradiance, 0, 0,
                               referenceChosen);
+}
+
+void togglePowerCurve(Plotter* plotter, bool stc, bool* opcShown, bool* stcShown,
+                      const _ramp_iv* curve, float pmax)
+{
+    bool* own = stc ? stcShown : opcShown;
+    bool* other = stc ? opcShown : stcShown;
+    *other = false;
+    if (*own) {
+        plotter->clearCurve(2);
+        *own = false;
+        return;
+    }
+    plotter->pmaxLabel = pmax;
+    plotter->setCurveData(2, powerPoints(curve));
+    *own = true;
 }

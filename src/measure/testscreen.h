@@ -8,6 +8,7 @@
 #include <QVector>
 
 class DialogAmbiente;
+class Plotter;
 class QProgressDialog;
 class QPushButton;
 class QWidget;
@@ -65,6 +66,13 @@ DialogAmbiente* measuredEnvironment(QWidget* parent, const _configParam& config,
 QVector<QPointF> curvePoints(const _ramp_iv* curve);
 // The power curve of a curve, its top at 9.5 on the current axis.
 QVector<QPointF> powerPoints(const _ramp_iv* curve);
+
+// The power curve of "Potenza OPC" (stc false) or "Potenza STC" as a toggle:
+// when it is shown it goes, and then neither counts as shown; else it is
+// drawn from curve as curve 2 with pmax printed beside it, the other no longer
+// counting as shown.
+void togglePowerCurve(Plotter* plotter, bool stc, bool* opcShown, bool* stcShown,
+                      const _ramp_iv* curve, float pmax);
 
 // Up and Down walk the bar's five buttons as a ring; "Salva" is passed over
 // while it is disabled. focus is the screen's focus widget.
