@@ -68,7 +68,9 @@ ListMeasures::ListMeasures(QWidget* parent, _meaType type, _selectType selectTyp
     QVBoxLayout* box = new QVBoxLayout(this);
     box->addWidget(infoBar);
     box->addStretch();
-    box->addWidget(listWidget);
+    // the rows take the room the stretches would leave empty: more measures
+    // stand on the screen at once
+    box->addWidget(listWidget, 1);
     box->addStretch();
     box->addLayout(buttons);
 

@@ -2,6 +2,7 @@
 #include "archive/listmeasures.h"
 #include "measure/viewfixture.h"
 #include "measure/viewmeasures.h"
+#include "shell/language.h"
 #include "shell/orvia.h"
 #include "support/lookcheck.h"
 #include "support/modaldriver.h"
@@ -12,6 +13,7 @@
 #include <QButtonGroup>
 #include <QDir>
 #include <QListWidget>
+#include <QTranslator>
 
 using namespace panelfixture;
 using namespace viewfixture;
@@ -371,6 +373,76 @@ private slots:
         QVERIFY(list.selected == nullptr);
     }
 
+    void screensSpeakTheChosenLanguage_data()
+    {
+        QTest::addColumn<int>("lang");
+        QTest::addColumn<QString>("header");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("graph");
+        QTest::addColumn<QString>("strings");
+        QTest::addColumn<QString>("power");
+        QTest::newRow("it") << int(LANG_IT) << "Data Ora\tCommento"
+                            << "Lista Misure Moduli"
+                            << "Grafico"
+                            << "Stringhe"
+                            << "Potenza";
+        QTest::newRow("en") << int(LANG_EN) << "Date Time\tComment"
+                            << "Module measurements"
+                            << "Graph"
+                            << "Strings"
+                            << "Power";
+        QTest::newRow("fr") << int(LANG_FR) << "Date Heure\tCommentaire"
+                            << "Liste mesures modules"
+                            << "Graphique"
+                            << "Chaines"
+                            << "Puissance";
+        QTest::newRow("de") << int(LANG_DE) << "Datum Uhrzeit\tKommentar"
+                            << "Liste Modulmessungen"
+                            << "Grafik"
+                            << "Strings"
+                            << "Leistung";
+        QTest::newRow("es") << int(LANG_ES) << "Fecha Hora\tComentario"
+                            << "Lista medidas módulos"
+                            << "Gráfico"
+                            << "Strings"
+                            << "Potencia";
+    }
+    void screensSpeakTheChosenLanguage()
+    {
+        QFETCH(int, lang);
+        QFETCH(QString, header);
+        QFETCH(QString, title);
+        QFETCH(QString, graph);
+        QFETCH(QString, strings);
+        QFETCH(QString, power);
+        World w;
+        QVERIFY(w.root.installCatalogues());
+        QTranslator translator;
+        QVERIFY(loadTranslator(&translator, _language(lang)));
+        QCoreApplication::installTranslator(&translator);
+        threeMeasures();
+        {
+            ListMeasures list(nullptr, MEA_PANEL, SELECT_VIEW);
+            QVERIFY(QTest::qWaitForWindowExposed(&list));
+            QCOMPARE(list.listWidget->item(0)->text(), header);
+            QCOMPARE(list.infoBar->title(), title);
+            QCOMPARE(list.graphButton->text(), graph);
+            QVERIFY(legibilityFaults(&list).isEmpty());
+            saveScreenshot(&list, "listmeasures-" + QString(QTest::currentDataTag()));
+            ArchiveMeasures menu(nullptr);
+            QCOMPARE(menu.stringsButton->text(), strings);
+            QVERIFY(QTest::qWaitForWindowExposed(&menu));
+            QVERIFY(legibilityFaults(&menu).isEmpty());
+            _listMeasures* entry = list.head;
+            ViewMeasures view(nullptr, entry, MEA_PANEL);
+            view.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&view));
+            QCOMPARE(view._buttonPower->text(), power);
+            QVERIFY(legibilityFaults(&view).isEmpty());
+        }
+        QCoreApplication::removeTranslator(&translator);
+    }
+
     // ---- The menu of the archive
 
     void archiveMenuHasItsButtonsWithModulesChosen()
@@ -389,6 +461,7 @@ private slots:
         archiveTouch(menu.stringsButton);
         QVERIFY(menu.stringsButton->isChecked());
         QVERIFY(!menu.modulesButton->isChecked());
+        QVERIFY(QTest::qWaitForWindowExposed(&menu));
         QVERIFY(legibilityFaults(&menu).isEmpty());
         saveScreenshot(&menu, "archivemeasures");
     }

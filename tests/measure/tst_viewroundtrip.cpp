@@ -85,8 +85,10 @@ class TestViewRoundTrip : public QObject
             s.stc = v->_plotter->curves().value(1);
             s.verdict = v->_plotter->testResult;
             s.verdictShown = v->_plotter->isViewPassTest();
-            if (!shot.isEmpty())
+            if (!shot.isEmpty() && QTest::qWaitForWindowExposed(v)) {
+                QTest::qWait(50); // maximized
                 saveScreenshot(v, shot);
+            }
             s.data = dataOf(inner, [&] { touch(v, "Dati"); });
             v->_actionPowerOpc->trigger();
             s.pmaxOpc = pmaxText(v->_plotter);
