@@ -32,7 +32,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QDateTime>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
@@ -40,7 +39,6 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTimer>
-#include <QVBoxLayout>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -101,21 +99,9 @@ PanelIV::PanelIV(QWidget* parent)
     _labelClock->setObjectName("clock");
     _labelClock->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum);
 
-    QHBoxLayout* row = new QHBoxLayout(bar);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(1);
-    row->addWidget(_buttonStart);
-    row->addWidget(_buttonReference);
-    row->addWidget(_buttonMeasures);
-    row->addWidget(_buttonSave);
-    row->addWidget(_buttonExit);
-    row->addStretch();
-    row->addWidget(_labelSupply);
-    row->addWidget(_labelClock);
-    QVBoxLayout* box = new QVBoxLayout(this);
-    box->setContentsMargins(0, 0, 0, 0);
-    box->addWidget(_plotter);
-    box->addWidget(bar);
+    layOutScreen(this, _plotter, bar,
+                 {_buttonStart, _buttonReference, _buttonMeasures, _buttonSave, _buttonExit},
+                 _labelSupply, _labelClock);
 
     _actionRsCalc = new QAction(tr("Calcolo"), this);
     _actionRsCalc->setObjectName("RsCalcolo");

@@ -9,8 +9,11 @@
 #include "platform/clock.h"
 #include "toolkit/plotter.h"
 
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QVBoxLayout>
 #include <cstring>
 
 QString progressStyle(const char* colour)
@@ -192,4 +195,22 @@ void togglePowerCurve(Plotter* plotter, bool stc, bool* opcShown, bool* stcShown
     plotter->pmaxLabel = pmax;
     plotter->setCurveData(2, powerPoints(curve));
     *own = true;
+}
+
+void layOutScreen(QWidget* screen, Plotter* plotter, QWidget* bar,
+                  const QList<QPushButton*>& buttons, QLabel* supply, QLabel* clock)
+{
+    QHBoxLayout* row = new QHBoxLayout(bar);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(1);
+    for (QPushButton* button : buttons)
+        if (button != nullptr)
+            row->addWidget(button);
+    row->addStretch();
+    row->addWidget(supply);
+    row->addWidget(clock);
+    QVBoxLayout* box = new QVBoxLayout(screen);
+    box->setContentsMargins(0, 0, 0, 0);
+    box->addWidget(plotter);
+    box->addWidget(bar);
 }

@@ -9,6 +9,7 @@
 
 class DialogAmbiente;
 class Plotter;
+class QLabel;
 class QProgressDialog;
 class QPushButton;
 class QWidget;
@@ -28,6 +29,12 @@ const char* supplyPicture(bool adapter, int level);
 
 // A button of the screen's bottom bar.
 QPushButton* barButton(const QString& text, const char* name, bool flat);
+
+// The screen's layout: the plot over the bar; on the bar from the left the
+// buttons (null ones left out), a stretch, the supply and the clock, with no
+// margins and one pixel between them.
+void layOutScreen(QWidget* screen, Plotter* plotter, QWidget* bar,
+                  const QList<QPushButton*>& buttons, QLabel* supply, QLabel* clock);
 
 // A name field of TEXT_COPY_SIZE bytes, zeroed, then filled from source (null leaves it empty).
 void copyName(char* target, const char* source);

@@ -20,13 +20,11 @@
 
 #include <QAction>
 #include <QDateTime>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QTimer>
-#include <QVBoxLayout>
 #include <cstring>
 #include <limits>
 
@@ -66,22 +64,9 @@ ViewMeasures::ViewMeasures(QWidget* parent, _listMeasures* entry, _meaType type)
     _labelClock = new QLabel;
     _labelClock->setObjectName("clock");
 
-    QHBoxLayout* row = new QHBoxLayout(_bar);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(1);
-    row->addWidget(_buttonData);
-    if (_buttonRs != nullptr)
-        row->addWidget(_buttonRs);
-    row->addWidget(_buttonEnv);
-    row->addWidget(_buttonPower);
-    row->addWidget(_buttonExit);
-    row->addStretch();
-    row->addWidget(_labelSupply);
-    row->addWidget(_labelClock);
-    QVBoxLayout* box = new QVBoxLayout(this);
-    box->setContentsMargins(0, 0, 0, 0);
-    box->addWidget(_plotter);
-    box->addWidget(_bar);
+    layOutScreen(this, _plotter, _bar,
+                 {_buttonData, _buttonRs, _buttonEnv, _buttonPower, _buttonExit}, _labelSupply,
+                 _labelClock);
 
     _actionPowerOpc = new QAction(tr("Potenza OPC"), this);
     _actionPowerOpc->setObjectName("PotenzaOPC");
