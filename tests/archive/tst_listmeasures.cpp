@@ -524,6 +524,32 @@ private slots:
         QVERIFY(!menu.isVisible());
     }
 
+    void operatorSeesWhereTheyAre_theFocusFrameMovesWithTheKeys()
+    {
+        World w;
+        threeMeasures();
+        {
+            ArchiveMeasures menu(nullptr);
+            QVERIFY(QTest::qWaitForWindowActive(&menu));
+            QVERIFY(showsPowerSupply(&menu));
+            QStringList faults = focusMarkFaultsByKey(&menu, w.sim, menu.listButton, "down");
+            QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+        }
+        ListMeasures list(nullptr, MEA_PANEL, SELECT_DELETE);
+        QVERIFY(QTest::qWaitForWindowActive(&list));
+        QVERIFY(showsPowerSupply(&list));
+        QStringList faults = focusMarkFaultsByKey(&list, w.sim, list.deleteButton, "down");
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+        list.hide(); // the keys go to the window in front
+        _listMeasures* entry = list.head;
+        ViewMeasures view(nullptr, entry, MEA_PANEL);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowActive(&view));
+        QTest::qWait(800); // the screen's first supply poll
+        faults = focusMarkFaultsByKey(&view, w.sim, view._buttonEnv, "down");
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+    }
+
     // ---- The main menu's "Archivio Misure"
 
     void mainMenuButtonOpensTheMeasureArchive()
