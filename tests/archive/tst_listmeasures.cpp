@@ -569,6 +569,49 @@ private slots:
         QCOMPARE(seen, QStringList{"ArchiveMeasures"});
         QVERIFY(orvia.findChild<ArchiveMeasures*>() == nullptr);
     }
+    void keysFinishEveryScreen_aMeasureSeenFromTheMainMenuAndBack()
+    {
+        World w;
+        threeMeasures();
+        Orvia orvia;
+        orvia.show();
+        QVERIFY(QTest::qWaitForWindowActive(&orvia));
+        ModalDriver outer;
+        ModalDriver inner;
+        ModalDriver innermost;
+        QByteArray file;
+        QStringList met;
+        outer.onWindow("ArchiveMeasures", [&](QWidget* a) {
+            met << a->metaObject()->className();
+            inner.onWindow("ListMeasures", [&](QWidget* l) {
+                met << l->metaObject()->className();
+                innermost.onWindow("ViewMeasures", [&](QWidget* v) {
+                    met << v->metaObject()->className();
+                    file = qobject_cast<ViewMeasures*>(v)->_entry->file;
+                    hardKey(w.sim, "escape", v);
+                });
+                // into the list, the first measure chosen, down to "Grafico"
+                w.sim.tapKey("return");
+                w.sim.tapKey("down");
+                w.sim.tapKey("return");
+                hardKey(w.sim, "down", l);
+                hardKey(w.sim, "return", l);
+                hardKey(w.sim, "escape", l);
+            });
+            hardKey(w.sim, "down", a); // Stringhe
+            hardKey(w.sim, "down", a); // Elenco
+            hardKey(w.sim, "return", a);
+            hardKey(w.sim, "escape", a);
+        });
+        orvia.findChild<QPushButton*>("Modulo")->setFocus();
+        QVERIFY(hardKey(w.sim, "down", &orvia));
+        QCOMPARE(orvia.focusWidget()->objectName(), QString("ArchivioMisure"));
+        QVERIFY(hardKey(w.sim, "return", &orvia));
+        QTRY_COMPARE(met, (QStringList{"ArchiveMeasures", "ListMeasures", "ViewMeasures"}));
+        QCOMPARE(file, QByteArray("20251201-080000"));
+        QCOMPARE(outer.pending() + inner.pending() + innermost.pending(), 0);
+        QVERIFY(orvia.findChild<ArchiveMeasures*>() == nullptr);
+    }
     void returnOnArchivioMisureOpensTheMeasureArchive()
     {
         World w;
