@@ -2,6 +2,40 @@
 <!DOCTYPE TS>
 <TS version="2.0" language="de_DE" sourcelanguage="it_IT">
 <context>
+    <name>ArchiveMeasures</name>
+    <message>
+        <location filename="../../../archive/archivemeasures.cpp" line="+26"/>
+        <location line="+2"/>
+        <source>Archivio Misure</source>
+        <translation>Archiv Messungen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Moduli</source>
+        <translation>Module</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Stringhe</source>
+        <translation>Strings</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Elenco</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cancella</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+</context>
+<context>
     <name>ArchivePanel</name>
     <message>
         <location filename="../../../archive/archivepanel.cpp" line="+31"/>
@@ -49,29 +83,29 @@
     <name>DeletePanel</name>
     <message>
         <location filename="../../../archive/deletepanel.cpp" line="+31"/>
-        <location line="+86"/>
+        <location line="+85"/>
         <source>Cancella Modulo / Modello</source>
         <translation>Modul / Modell löschen</translation>
     </message>
     <message>
-        <location line="-81"/>
+        <location line="-79"/>
         <source>Marca</source>
         <translation>Marke</translation>
     </message>
     <message>
         <location line="+6"/>
-        <location line="+86"/>
+        <location line="+84"/>
         <source>Cancella Modello</source>
         <translation>Modell löschen</translation>
     </message>
     <message>
-        <location line="-84"/>
-        <location line="+90"/>
+        <location line="-82"/>
+        <location line="+88"/>
         <source>Cancella Marca</source>
         <translation>Marke löschen</translation>
     </message>
     <message>
-        <location line="-88"/>
+        <location line="-86"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
@@ -81,7 +115,7 @@
         <translation>Modell</translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+42"/>
         <source>Numero di Modelli : </source>
         <translation>Anzahl der Modelle : </translation>
     </message>
@@ -91,7 +125,7 @@
         <translation>Bestätigen?</translation>
     </message>
     <message>
-        <location line="+48"/>
+        <location line="+45"/>
         <source>Cancella Modulo...</source>
         <translation>Modul wird gelöscht...</translation>
     </message>
@@ -99,14 +133,14 @@
 <context>
     <name>EditBrand</name>
     <message>
-        <location filename="../../../archive/editbrand.cpp" line="+24"/>
-        <location line="+74"/>
-        <location line="+35"/>
+        <location filename="../../../archive/editbrand.cpp" line="+25"/>
+        <location line="+82"/>
+        <location line="+34"/>
         <source>Modifica Marca</source>
         <translation>Marke bearbeiten</translation>
     </message>
     <message>
-        <location line="-102"/>
+        <location line="-109"/>
         <source>Salva</source>
         <translation>Speichern</translation>
     </message>
@@ -116,23 +150,23 @@
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+33"/>
-        <location line="+30"/>
-        <location line="+4"/>
-        <location line="+10"/>
+        <location line="+32"/>
+        <location line="+21"/>
+        <location line="+18"/>
+        <location line="+13"/>
         <location line="+9"/>
         <source>&lt;Nuova Marca&gt;</source>
         <translation>&lt;Neue Marke&gt;</translation>
     </message>
     <message>
-        <location line="-24"/>
-        <location line="+18"/>
+        <location line="-23"/>
+        <location line="+17"/>
         <source>Testo inserito non valido.</source>
         <translation>Eingegebener Text ungültig.</translation>
     </message>
     <message>
-        <location line="-16"/>
-        <location line="+15"/>
+        <location line="-15"/>
+        <location line="+14"/>
         <source>Marca Modulo</source>
         <translation>Modulmarke</translation>
     </message>
@@ -155,13 +189,13 @@
 <context>
     <name>EditPanel</name>
     <message>
-        <location filename="../../../archive/editpanel.cpp" line="+27"/>
-        <location line="+223"/>
+        <location filename="../../../archive/editpanel.cpp" line="+28"/>
+        <location line="+216"/>
         <source>Modifica Modulo</source>
         <translation>Modul bearbeiten</translation>
     </message>
     <message>
-        <location line="-220"/>
+        <location line="-212"/>
         <location line="+21"/>
         <source>Pmax</source>
         <translation>Pmax</translation>
@@ -388,7 +422,7 @@
         <translation>Mikromorph</translation>
     </message>
     <message>
-        <location line="+114"/>
+        <location line="+106"/>
         <source>Testo inserito non valido.</source>
         <translation>Eingegebener Text ungültig.</translation>
     </message>
@@ -401,8 +435,8 @@
 <context>
     <name>EditSelectedPanel</name>
     <message>
-        <location filename="../../../archive/editselpanel.cpp" line="+37"/>
-        <location line="+180"/>
+        <location filename="../../../archive/editselpanel.cpp" line="+38"/>
+        <location line="+181"/>
         <source>Modifica Modulo</source>
         <translation>Modul bearbeiten</translation>
     </message>
@@ -667,18 +701,18 @@
 <context>
     <name>FindPanel</name>
     <message>
-        <location filename="../../../archive/findpanel.cpp" line="+27"/>
+        <location filename="../../../archive/findpanel.cpp" line="+31"/>
         <source>Ricerca Modulo</source>
         <translation>Modulsuche</translation>
     </message>
     <message>
-        <location line="+29"/>
-        <location line="+225"/>
+        <location line="+35"/>
+        <location line="+226"/>
         <source>Modello trovato : </source>
         <translation>Gefundene Modelle : </translation>
     </message>
     <message>
-        <location line="-223"/>
+        <location line="-224"/>
         <source>Cerca</source>
         <translation>Suchen</translation>
     </message>
@@ -693,7 +727,7 @@
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+68"/>
+        <location line="+67"/>
         <source>Pmax</source>
         <translation>Pmax</translation>
     </message>
@@ -843,7 +877,7 @@
         <translation>Modell</translation>
     </message>
     <message>
-        <location line="+47"/>
+        <location line="+48"/>
         <source>Ricerca Modulo...</source>
         <translation>Modul wird gesucht...</translation>
     </message>
@@ -853,15 +887,78 @@
         <translation>Abbrechen...</translation>
     </message>
     <message>
-        <location line="+41"/>
+        <location line="+42"/>
         <source>Nessun risultato trovato.</source>
         <translation>Kein Ergebnis gefunden.</translation>
     </message>
 </context>
 <context>
+    <name>ListMeasures</name>
+    <message>
+        <location filename="../../../archive/listmeasures.cpp" line="+35"/>
+        <source>Lista Misure Moduli</source>
+        <translation>Liste Modulmessungen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Lista Misure Stringhe</source>
+        <translation>Liste Stringmessungen</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Grafico</source>
+        <translation>Grafik</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Cancella</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Aggiungi</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+44"/>
+        <source>Data</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Ora</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Commento</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <location line="+40"/>
+        <source>Cancella Misure Modulo</source>
+        <translation>Modulmessung löschen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cancella Misure Stringhe</source>
+        <translation>Stringmessung löschen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Conferma?</source>
+        <translation>Bestätigen?</translation>
+    </message>
+</context>
+<context>
     <name>ListPanel</name>
     <message>
-        <location filename="../../../archive/listpanel.cpp" line="+21"/>
+        <location filename="../../../archive/listpanel.cpp" line="+24"/>
         <source>Lista Moduli</source>
         <translation>Modulliste</translation>
     </message>
@@ -871,12 +968,12 @@
         <translation>Marke</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+9"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+53"/>
+        <location line="+49"/>
         <source>Model</source>
         <translation>Modell</translation>
     </message>
@@ -914,14 +1011,14 @@
 <context>
     <name>NewPanel</name>
     <message>
-        <location filename="../../../archive/newpanel.cpp" line="+25"/>
-        <location line="+200"/>
+        <location filename="../../../archive/newpanel.cpp" line="+26"/>
+        <location line="+197"/>
         <location line="+19"/>
         <source>Nuovo Modulo</source>
         <translation>Neues Modul</translation>
     </message>
     <message>
-        <location line="-215"/>
+        <location line="-211"/>
         <location line="+21"/>
         <source>Pmax</source>
         <translation>Pmax</translation>
@@ -1143,7 +1240,7 @@
         <translation>Mikromorph</translation>
     </message>
     <message>
-        <location line="+77"/>
+        <location line="+74"/>
         <source>Testo inserito non valido.</source>
         <translation>Eingegebener Text ungültig.</translation>
     </message>
@@ -1168,7 +1265,7 @@
         <translation>Zu lang.</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+38"/>
         <source>Aggiornamento Modulo</source>
         <translation>Modul aktualisiert</translation>
     </message>
