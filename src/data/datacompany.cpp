@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <unistd.h>
 
 char* newRecordFileName(const char* dataDir, const char* keyText, char* target)
 {
@@ -35,6 +36,21 @@ static bool holdsKey(const char* line, const char* const* keys)
     return false;
 }
 
+// Copies the old file's lines that hold none of the keys, lowered, each line
+// whole however long it is. False when a read fails.
+static bool carryOldLines(FILE* old, FILE* f, const char* const* keys)
+{
+    char* line = nullptr;
+    size_t size = 0;
+    while (getline(&line, &size, old) != -1) {
+        strlower(line);
+        if (!holdsKey(line, keys))
+            fputs(line, f);
+    }
+    free(line);
+    return ferror(old) == 0;
+}
+
 int updateRecordFile(const char* dataDir, const char* file, WriteRecord write, const void* record,
                      const char* const* keys)
 {
@@ -54,17 +70,21 @@ int updateRecordFile(const char* dataDir, const char* file, WriteRecord write, c
         return -1;
     }
 
+    // The old instrument wrote without looking, deleted the old file and then
+    // renamed: a full disk left a cut record in its place, a power cut between
+    // the two steps no record of that name at all. The old file stays until
+    // the new one is written, flushed, synced and closed without a fault, and
+    // the new one takes its place in one rename.
     write(f, record);
-    char line[TAG_LINE_SIZE];
-    while (readTagLine(old, line)) {
-        strlower(line);
-        if (!holdsKey(line, keys))
-            fputs(line, f);
-    }
-    fflush(f);
-    fclose(f);
+    bool good = carryOldLines(old, f, keys);
     fclose(old);
-    myUnlink(file);
+    good = fflush(f) == 0 && ferror(f) == 0 && good;
+    good = fsync(fileno(f)) == 0 && good;
+    good = fclose(f) == 0 && good;
+    if (!good) {
+        unlink(temporary);
+        return -1;
+    }
     return rename(temporary, file);
 }
 
