@@ -2,91 +2,12 @@
 
 #include "data/datapanel.h"
 #include "data/direntry.h"
+#include "data/recordfiles.h"
 #include "data/workdir.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <unistd.h>
-
-char* newRecordFileName(const char* dataDir, const char* keyText, char* target)
-{
-    if (keyText == nullptr || target == nullptr)
-        return nullptr;
-    WorkDir wd;
-    if (!wd.enter(dataDir))
-        return nullptr;
-    char name[COMPANY_NAME_SIZE];
-    snprintf(name, sizeof name, "%s", keyText);
-    strlower(name);
-    strunderline(name, nullptr);
-    // no alternative name is tried
-    if (existFile(name) != 0)
-        return nullptr;
-    strcpy(target, name);
-    return target;
-}
-
-// Whether a lowered line holds one of the keys anywhere, also inside a value.
-static bool holdsKey(const char* line, const char* const* keys)
-{
-    for (; *keys != nullptr; keys++)
-        if (strstr(line, *keys) != nullptr)
-            return true;
-    return false;
-}
-
-// Copies the old file's lines that hold none of the keys, lowered, each line
-// whole however long it is. False when a read fails.
-static bool carryOldLines(FILE* old, FILE* f, const char* const* keys)
-{
-    char* line = nullptr;
-    size_t size = 0;
-    while (getline(&line, &size, old) != -1) {
-        strlower(line);
-        if (!holdsKey(line, keys))
-            fputs(line, f);
-    }
-    free(line);
-    return ferror(old) == 0;
-}
-
-int updateRecordFile(const char* dataDir, const char* file, WriteRecord write, const void* record,
-                     const char* const* keys)
-{
-    if (file == nullptr || record == nullptr)
-        return -4;
-    WorkDir wd;
-    if (!wd.enter(dataDir))
-        return -3;
-    char temporary[COMPANY_NAME_SIZE + 8];
-    snprintf(temporary, sizeof temporary, "%s.$$$", file);
-    FILE* old = fopen(file, "r");
-    if (old == nullptr)
-        return -2;
-    FILE* f = fopen(temporary, "w");
-    if (f == nullptr) {
-        fclose(old);
-        return -1;
-    }
-
-    // The old instrument wrote without looking, deleted the old file and then
-    // renamed: a full disk left a cut record in its place, a power cut between
-    // the two steps no record of that name at all. The old file stays until
-    // the new one is written, flushed, synced and closed without a fault, and
-    // the new one takes its place in one rename.
-    write(f, record);
-    bool good = carryOldLines(old, f, keys);
-    fclose(old);
-    good = fflush(f) == 0 && ferror(f) == 0 && good;
-    good = fsync(fileno(f)) == 0 && good;
-    good = fclose(f) == 0 && good;
-    if (!good) {
-        unlink(temporary);
-        return -1;
-    }
-    return rename(temporary, file);
-}
 
 // ---- Company
 
@@ -267,7 +188,7 @@ _listCompany* readListCompany(QWidget* parent)
 
 _listFileInstallation* addItemOnListInstallation(_listFileInstallation* list, const char* file)
 {
-    return addFileNode(list, file);
+    return addFileNameNode(list, file);
 }
 
 _listCompany* closeListCompany(_listCompany* list)
@@ -286,5 +207,5 @@ _listCompany* closeListCompany(_listCompany* list)
 
 _listFileInstallation* closeListFileInstallation(_listFileInstallation* list)
 {
-    return closeFileList(list);
+    return closeFileNameList(list);
 }

@@ -3,9 +3,6 @@
 
 #include "data/coredata.h"
 
-#include <cstdlib>
-#include <cstring>
-
 class QWidget;
 
 // Companies: one tag file each under /krm510data/datacompany, named after the
@@ -31,37 +28,5 @@ int getSurnameCodeCompany(const char* file, _listCompany* node);
 _listFileInstallation* addItemOnListInstallation(_listFileInstallation* list, const char* file);
 _listCompany* closeListCompany(_listCompany* list);
 _listFileInstallation* closeListFileInstallation(_listFileInstallation* list);
-
-// Shared by the company and installation files.
-// The lowered, underlined key text as a file name; null when it exists already.
-char* newRecordFileName(const char* dataDir, const char* keyText, char* target);
-// Writes the record's lines into "<file>.$$$", then carries along every old
-// line that holds none of the keys, and puts the new file in the old one's place.
-typedef int (*WriteRecord)(FILE* stream, const void* record);
-int updateRecordFile(const char* dataDir, const char* file, WriteRecord write, const void* record,
-                     const char* const* keys);
-
-// The lists of file names (installations of a company, measures of an
-// installation): a new node in front, and the whole list freed.
-template <class Node> Node* addFileNode(Node* list, const char* file)
-{
-    Node* node = static_cast<Node*>(calloc(1, sizeof(Node)));
-    if (node == nullptr)
-        return list;
-    node->file = file != nullptr ? strdup(file) : nullptr;
-    node->next = list;
-    return node;
-}
-
-template <class Node> Node* closeFileList(Node* list)
-{
-    while (list != nullptr) {
-        Node* next = list->next;
-        free(list->file);
-        free(list);
-        list = next;
-    }
-    return nullptr;
-}
 
 #endif

@@ -1,6 +1,7 @@
 #include "data/datacompany.h"
 #include "data/datapanel.h"
 #include "data/direntry.h"
+#include "data/recordfiles.h"
 #include "platform/systemroot.h"
 #include "support/datafiles.h"
 #include "support/testroot.h"
