@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <algorithm>
 #include <cmath>
 
@@ -19,6 +20,15 @@ float defaultKvoc(int type)
     if (type < 0 || type >= PANEL_TYPES)
         return kvoc[0];
     return kvoc[type];
+}
+
+QPushButton* archiveMenuButton(const char* icon, const QString& text, const char* name)
+{
+    QPushButton* button = new QPushButton(QIcon(icon), text);
+    button->setObjectName(name);
+    button->setIconSize(QSize(48, 48));
+    button->setFlat(true);
+    return button;
 }
 
 void setLineEditWidth(QLineEdit* edit, int width)

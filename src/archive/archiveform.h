@@ -27,6 +27,10 @@ class QWidget;
 // The temperature coefficient of Voc that selecting a technology puts in the form.
 float defaultKvoc(int type);
 
+class QPushButton;
+// A flat button with a large icon of the archive menus.
+QPushButton* archiveMenuButton(const char* icon, const QString& text, const char* name);
+
 void setLineEditWidth(QLineEdit* edit, int width);
 // Puts label, line edit and unit into the grid at row, from column on.
 void createLineEdit(QGridLayout* grid, QLineEdit* edit, QString label, QString unit, int row,

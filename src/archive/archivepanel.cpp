@@ -15,15 +15,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-static QPushButton* menuButton(const char* icon, const QString& text, const char* name)
-{
-    QPushButton* button = new QPushButton(QIcon(icon), text);
-    button->setObjectName(name);
-    button->setIconSize(QSize(48, 48));
-    button->setFlat(true);
-    return button;
-}
-
 ArchivePanel::ArchivePanel(QWidget* parent) : QDialog(parent)
 {
     setObjectName("ArchivePanel");
@@ -32,13 +23,15 @@ ArchivePanel::ArchivePanel(QWidget* parent) : QDialog(parent)
     _infoBar = new InfoBar(this);
     _infoBar->setTitle(tr("Archivio Moduli"));
 
-    _buttonNew = menuButton(":/icon/insertnew.png", tr("Nuovo Modulo"), "Nuovo Modulo");
-    _buttonEdit = menuButton(":/icon/editpanel.png", tr("Modifica Modulo"), "Modifica Modulo");
-    _buttonEditBrand = menuButton(":/icon/editpanel.png", tr("Modifica Marca"), "Modifica Marca");
-    _buttonDelete = menuButton(":/icon/cancel.png", tr("Cancella"), "Cancella");
-    _buttonFind = menuButton(":/icon/find-panel.png", tr("Trova"), "Trova");
-    _buttonList = menuButton(":/icon/archiveList.png", tr("Elenco"), "Elenco");
-    _buttonExit = menuButton(":/icon/exit.png", tr("Exit"), "Exit");
+    _buttonNew = archiveMenuButton(":/icon/insertnew.png", tr("Nuovo Modulo"), "Nuovo Modulo");
+    _buttonEdit =
+        archiveMenuButton(":/icon/editpanel.png", tr("Modifica Modulo"), "Modifica Modulo");
+    _buttonEditBrand =
+        archiveMenuButton(":/icon/editpanel.png", tr("Modifica Marca"), "Modifica Marca");
+    _buttonDelete = archiveMenuButton(":/icon/cancel.png", tr("Cancella"), "Cancella");
+    _buttonFind = archiveMenuButton(":/icon/find-panel.png", tr("Trova"), "Trova");
+    _buttonList = archiveMenuButton(":/icon/archiveList.png", tr("Elenco"), "Elenco");
+    _buttonExit = archiveMenuButton(":/icon/exit.png", tr("Exit"), "Exit");
 
     QGridLayout* grid = new QGridLayout;
     grid->setHorizontalSpacing(10);
@@ -128,7 +121,7 @@ void ArchivePanel::goToListPanel()
 
 QList<QWidget*> ArchivePanel::focusChain() const
 {
-    return {_buttonNew, _buttonEdit, _buttonEditBrand, _buttonDelete,
+    return {_buttonNew,  _buttonEdit, _buttonEditBrand, _buttonDelete,
             _buttonFind, _buttonList, _buttonExit};
 }
 

@@ -109,14 +109,7 @@ void DeletePanel::selectModel(QListWidgetItem* item)
 
 bool DeletePanel::askConfirmation(const QString& text)
 {
-    QMessageBox* box =
-        newMessageBox(this, QMessageBox::Question, tr("Cancella Modulo / Modello"), text);
-    box->setInformativeText(tr("Conferma?"));
-    box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box->setDefaultButton(QMessageBox::No);
-    bool yes = box->exec() == QMessageBox::Yes;
-    delete box;
-    return yes;
+    return askYesNo(this, tr("Cancella Modulo / Modello"), text, tr("Conferma?"));
 }
 
 void DeletePanel::questionDeleteModel()

@@ -18,8 +18,11 @@ FormDialog::FormDialog(QWidget* parent, const char* objectName, const QString& t
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
     _infoBar = new InfoBar(this);
     _infoBar->setTitle(title);
-    setFormFont(this, _infoBar, pointSize);
+    if (pointSize > 0)
+        setFormFont(this, _infoBar, pointSize);
 }
+
+void FormDialog::editLineObject(QObject*) {}
 
 QLineEdit* FormDialog::formLine(QGridLayout* grid, const char* name, const QString& label,
                                 const QString& unit, int row, int column, int width)

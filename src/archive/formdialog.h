@@ -14,19 +14,23 @@ class QPushButton;
 // the line edits that open the on-screen keyboard when touched (a touch is
 // consumed, so a line edit never takes the focus by touch), Up and Down along
 // the screen's focus chain, Return on the focused widget, and Escape.
-// Each form keeps its own texts, bounds, chain and Return rule.
+// Each form keeps its own texts, bounds, chain and Return rule. The menus,
+// lists and choices of the archive are screens of the same kind without
+// line edits.
 class FormDialog : public QDialog
 {
     Q_OBJECT
 public:
+    // A point size of 0 keeps the instrument's font.
     FormDialog(QWidget* parent, const char* objectName, const QString& title, int pointSize);
 
     // A touch on the line edit opens its keyboard round.
     void filterLine(QLineEdit* edit);
 
 public slots:
-    // The keyboard round of one filtered line edit.
-    virtual void editLineObject(QObject* obj) = 0;
+    // The keyboard round of one filtered line edit; a screen without line
+    // edits has none.
+    virtual void editLineObject(QObject* obj);
 
 protected:
     bool eventFilter(QObject* obj, QEvent* event) override;

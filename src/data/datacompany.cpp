@@ -67,6 +67,16 @@ int updateDataCompany(const char* file, _company* company)
     return result;
 }
 
+int deleteDataCompany(const char* file)
+{
+    if (file == nullptr)
+        return -4;
+    WorkDir wd;
+    if (!wd.enter(DIR_DATA_COMPANY))
+        return -2;
+    return myUnlink(file);
+}
+
 _company* readCompanyFromFile(const char* file)
 {
     if (file == nullptr)

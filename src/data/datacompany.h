@@ -19,6 +19,9 @@ int saveDataCompany(_company* company);
 // -4 no file or record; -3 directory; -2 old file; -1 temporary file.
 int updateDataCompany(const char* file, _company* company);
 _company* readCompanyFromFile(const char* file);
+// Deletes a company's file; its installations' files stay. The result of the
+// unlink, -2 when the directory can't be entered.
+int deleteDataCompany(const char* file);
 _company* freeCompany(_company* company);
 _listCompany* readListCompany(QWidget* parent);
 _listCompany* addCompanyNode(_listCompany* list, const char* file);
