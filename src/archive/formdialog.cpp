@@ -16,6 +16,7 @@ FormDialog::FormDialog(QWidget* parent, const char* objectName, const QString& t
 {
     setObjectName(objectName);
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
+    setWindowTitle(title);
     _infoBar = new InfoBar(this);
     _infoBar->setTitle(title);
     if (pointSize > 0)
