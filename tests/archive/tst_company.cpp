@@ -8,6 +8,7 @@
 #include "archivefixture.h"
 #include "data/datacompany.h"
 #include "data/datainstallation.h"
+#include "shell/language.h"
 #include "shell/orvia.h"
 #include "support/datafiles.h"
 #include "support/screenshot.h"
@@ -16,6 +17,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QTranslator>
 #include <QtTest>
 
 using namespace archive;
@@ -32,6 +34,12 @@ class TestCompany : public QObject
     static QByteArray companyFile(const TestRoot& root, const char* file)
     {
         return root.read((QByteArray("/krm510data/datacompany/") + file).constData());
+    }
+    // The screen at the instrument's size, into build/screenshots.
+    static void shoot(QWidget* w, const QString& name)
+    {
+        w->resize(1024, 600);
+        QVERIFY(!saveScreenshot(w, name).isEmpty());
     }
     static QStringList companyFiles(const TestRoot& root)
     {
@@ -460,6 +468,27 @@ private slots:
                                       "ArchiveCompany:Archivio Aziende"}));
     }
 
+    void catalogueRowsOfTheCompanyScreens()
+    {
+        TestRoot root(0.01);
+        QVERIFY(root.installCatalogues());
+        QTranslator italian, english, german;
+        QVERIFY(loadTranslator(&italian, LANG_IT));
+        QVERIFY(loadTranslator(&english, LANG_EN));
+        QVERIFY(loadTranslator(&german, LANG_DE));
+        // the Italian catalogue mends the selection's label of the tax code
+        QCOMPARE(italian.translate("SelectCompany", "Cod. Fis."), QString("Cod. Fisc."));
+        QCOMPARE(italian.translate("InsertCompany", "Cod. Fisc."), QString("Cod. Fisc."));
+        QCOMPARE(english.translate("EditCompany", "Aggiornamento non riuscito."),
+                 QString("Update failed."));
+        QCOMPARE(english.translate("InsertCompany", " già presente."),
+                 QString(" already present."));
+        QCOMPARE(english.translate("EditCompany", " è già presente."),
+                 QString(" is already present."));
+        QCOMPARE(german.translate("ArchiveCompany", "Archivio Aziende"), QString("Firmenarchiv"));
+        QCOMPARE(german.translate("ListCompany", "Lista Aziende"), QString("Firmenliste"));
+    }
+
     // ---- Screenshots
 
     void screenshotsOfTheCompanyArchive()
@@ -470,12 +499,12 @@ private slots:
         addInstallation("Tetto", "Imola", "4", "12");
         {
             ArchiveCompany menu(nullptr);
-            QVERIFY(!saveScreenshot(&menu, "company-archive").isEmpty());
+            shoot(&menu, "company-archive");
         }
         {
             Edited e("rossi_impianti");
             EditCompany d(nullptr, e.list, e.record);
-            QVERIFY(!saveScreenshot(&d, "company-edit").isEmpty());
+            shoot(&d, "company-edit");
             closeListCompany(e.list);
         }
         {
@@ -483,20 +512,20 @@ private slots:
             ModalDriver driver;
             enter(driver, &d, "surn", "Verdi");
             enter(driver, &d, "phone", "+39 051 654");
-            QVERIFY(!saveScreenshot(&d, "company-insert").isEmpty());
+            shoot(&d, "company-insert");
         }
         for (_selectType mode : {SELECT_EDIT, SELECT_DELETE, SELECT_VIEW}) {
             SelectCompany d(nullptr, mode);
-            QVERIFY(!saveScreenshot(&d, "company-" + d.objectName()).isEmpty());
+            shoot(&d, "company-" + d.objectName());
         }
         {
             ListCompany d(nullptr);
-            QVERIFY(!saveScreenshot(&d, "company-list").isEmpty());
+            shoot(&d, "company-list");
         }
         {
             _company* c = readCompanyFromFile("rossi_impianti");
             ViewCompany d(nullptr, c);
-            QVERIFY(!saveScreenshot(&d, "company-view").isEmpty());
+            shoot(&d, "company-view");
             freeCompany(c);
         }
     }
