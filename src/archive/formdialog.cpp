@@ -49,15 +49,16 @@ QPushButton* FormDialog::formButton(const char* icon, const QString& text, const
     return button;
 }
 
-void FormDialog::showForm(QLayout* form, const QList<QPushButton*>& buttons)
+void FormDialog::showForm(QLayout* form, const QList<QPushButton*>& buttons, bool fill)
 {
     QHBoxLayout* row = new QHBoxLayout;
     for (QPushButton* b : buttons)
         row->addWidget(b);
     QVBoxLayout* box = new QVBoxLayout(this);
     box->addWidget(_infoBar);
-    box->addLayout(form);
-    box->addStretch();
+    box->addLayout(form, fill ? 1 : 0);
+    if (!fill)
+        box->addStretch();
     box->addLayout(row);
     setModal(true);
     showMaximized();

@@ -48,8 +48,9 @@ protected:
     QPushButton* formButton(const char* icon, const QString& text, const char* name);
     // Lays out the status bar, the form and the row of buttons, and shows the
     // screen maximised; modal from the first show, as exec() on a shown
-    // window would not make it so.
-    void showForm(QLayout* form, const QList<QPushButton*>& buttons);
+    // window would not make it so. A form of lists takes the whole height
+    // (fill); a form of fields stands at the top.
+    void showForm(QLayout* form, const QList<QPushButton*>& buttons, bool fill = false);
 
     InfoBar* _infoBar;
 

@@ -9,13 +9,10 @@
 #include <QVBoxLayout>
 
 ListCompany::ListCompany(QWidget* parent)
-    : FormDialog(parent, "ListCompany", tr("Lista Aziende"), 0)
+    : FormDialog(parent, "ListCompany", tr("Lista Aziende"), 24)
 {
     _list = new QListWidget;
     _list->setObjectName("list");
-    QFont small = _list->font();
-    small.setPointSize(22);
-    _list->setFont(small);
     _buttonOpen = formButton(":/icon/archiveList.png", tr("Apri"), "Apri");
     _buttonExit = formButton(":/icon/exit.png", tr("Exit"), "Exit");
     QVBoxLayout* form = new QVBoxLayout;
@@ -23,7 +20,7 @@ ListCompany::ListCompany(QWidget* parent)
     readCompanyData();
     connect(_buttonOpen, &QPushButton::clicked, this, &ListCompany::goToViewCompany);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
-    showForm(form, {_buttonOpen, _buttonExit});
+    showForm(form, {_buttonOpen, _buttonExit}, true);
 }
 
 QString ListCompany::headerListCompany() const

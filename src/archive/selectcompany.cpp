@@ -28,7 +28,7 @@ static const SelectMode modes[] = {
 };
 
 SelectCompany::SelectCompany(QWidget* parent, _selectType mode)
-    : FormDialog(parent, modes[mode].objectName, tr(modes[mode].title), 0), _mode(mode),
+    : FormDialog(parent, modes[mode].objectName, tr(modes[mode].title), 24), _mode(mode),
       _companyHead(nullptr)
 {
     _comboCompany = new QComboBox;
@@ -36,10 +36,6 @@ SelectCompany::SelectCompany(QWidget* parent, _selectType mode)
     _listFields = new QListWidget;
     _listFields->setObjectName("fields");
     _listFields->setSelectionMode(QAbstractItemView::NoSelection);
-    QFont small = _listFields->font();
-    small.setPointSize(22);
-    _listFields->setFont(small);
-    _comboCompany->setFont(small);
     _buttonAction = formButton(mode == SELECT_VIEW     ? ":/icon/add.png"
                                : mode == SELECT_DELETE ? ":/icon/cancel.png"
                                                        : ":/icon/editpanel.png",
@@ -61,7 +57,7 @@ SelectCompany::SelectCompany(QWidget* parent, _selectType mode)
         connect(_buttonAction, &QPushButton::clicked, this,
                 &SelectCompany::goToAddInstallationOnCompany);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
-    showForm(form, {_buttonAction, _buttonExit});
+    showForm(form, {_buttonAction, _buttonExit}, true);
 }
 
 SelectCompany::~SelectCompany()

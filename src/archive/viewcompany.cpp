@@ -42,7 +42,7 @@ ViewCompany::ViewCompany(QWidget* parent, _company* company)
     addInstallationOnList();
     connect(_listInstallation, &QListWidget::itemPressed, this, &ViewCompany::goToEnableView);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
-    showForm(form, {_buttonView, _buttonExit});
+    showForm(form, {_buttonView, _buttonExit}, true);
 }
 
 QString ViewCompany::headerListInstallation() const

@@ -92,7 +92,11 @@ class TestCompany : public QObject
 
 private slots:
     static void initMain() { useInstrumentScreen(); }
-    void initTestCase() { useInstrumentDpi(); }
+    void initTestCase()
+    {
+        useInstrumentDpi();
+        setInstrumentLook();
+    }
 
     // ---- Entry rules
 
