@@ -15,13 +15,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-ArchivePanel::ArchivePanel(QWidget* parent) : QDialog(parent)
+ArchivePanel::ArchivePanel(QWidget* parent)
+    : FormDialog(parent, "ArchivePanel", tr("Archivio Moduli"), 0)
 {
-    setObjectName("ArchivePanel");
-    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
-    setWindowTitle(tr("Archivio Moduli"));
-    _infoBar = new InfoBar(this);
-    _infoBar->setTitle(tr("Archivio Moduli"));
 
     _buttonNew = archiveMenuButton(":/icon/insertnew.png", tr("Nuovo Modulo"), "Nuovo Modulo");
     _buttonEdit =
@@ -125,36 +121,20 @@ QList<QWidget*> ArchivePanel::focusChain() const
             _buttonFind, _buttonList, _buttonExit};
 }
 
-void ArchivePanel::keyPressEvent(QKeyEvent* event)
+void ArchivePanel::returnOn(QWidget* focused)
 {
-    switch (event->key()) {
-    case Qt::Key_Down:
-        walkFocus(focusChain(), true);
-        break;
-    case Qt::Key_Up:
-        walkFocus(focusChain(), false);
-        break;
-    case Qt::Key_Return:
-        if (_buttonNew->hasFocus())
-            goToNewPanel();
-        else if (_buttonEdit->hasFocus())
-            goToEditPanel();
-        else if (_buttonEditBrand->hasFocus())
-            goToEditBrand();
-        else if (_buttonDelete->hasFocus())
-            goToDeletePanel();
-        else if (_buttonFind->hasFocus())
-            goToFindPanel();
-        else if (_buttonList->hasFocus())
-            goToListPanel();
-        else if (_buttonExit->hasFocus())
-            reject();
-        break;
-    case Qt::Key_Escape:
+    if (focused == _buttonNew)
+        goToNewPanel();
+    else if (focused == _buttonEdit)
+        goToEditPanel();
+    else if (focused == _buttonEditBrand)
+        goToEditBrand();
+    else if (focused == _buttonDelete)
+        goToDeletePanel();
+    else if (focused == _buttonFind)
+        goToFindPanel();
+    else if (focused == _buttonList)
+        goToListPanel();
+    else if (focused == _buttonExit)
         reject();
-        break;
-    default:
-        break;
-    }
-    QWidget::keyPressEvent(event);
 }
