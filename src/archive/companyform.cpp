@@ -1,6 +1,7 @@
 #include "archive/companyform.h"
 
 #include "archive/archiveform.h"
+#include "archive/selectinstallation.h"
 #include "data/datacompany.h"
 #include "data/storedtext.h"
 #include "toolkit/embkeyboard.h"
@@ -49,6 +50,8 @@ CompanyForm::CompanyForm(QWidget* parent, const char* objectName, const CompanyT
     _buttonExit = formButton(":/icon/exit.png", texts.exit, "Exit");
     _buttonSave->setEnabled(false);
 
+    connect(_buttonAddInstallation, &QPushButton::clicked, this,
+            &CompanyForm::addInstallationToCompany);
     connect(_buttonDelInstallation, &QPushButton::clicked, this,
             &CompanyForm::delInstallationToCompany);
     connect(_buttonSave, &QPushButton::clicked, this, &CompanyForm::saveCompany);
@@ -132,6 +135,14 @@ void CompanyForm::addInstallationRow(const QString& row, const QString& file)
     _comboInstallation->addItem(row);
 }
 
+void CompanyForm::addInstallationToCompany()
+{
+    SelectInstallation* screen = new SelectInstallation(this, SELECT_VIEW);
+    if (screen->exec() == QDialog::Accepted && !screen->_chosenRow.isEmpty())
+        addInstallationRow(screen->_chosenRow, screen->_chosenFile);
+    delete screen;
+}
+
 void CompanyForm::delInstallationToCompany()
 {
     int row = _comboInstallation->currentIndex();
@@ -203,7 +214,7 @@ void CompanyForm::returnOn(QWidget* focused)
         if (focused == edit)
             editLineObject(edit);
     if (focused == _buttonAddInstallation)
-        _buttonAddInstallation->click();
+        addInstallationToCompany();
     else if (focused == _buttonDelInstallation)
         delInstallationToCompany();
     else if (focused == _buttonSave)

@@ -48,6 +48,7 @@ public slots:
     void editLineObject(QObject* obj) override;
     virtual void saveCompany() = 0;
     virtual void resetParameters() = 0;
+    void addInstallationToCompany();
     void delInstallationToCompany();
     void resetCursorPosition();
 

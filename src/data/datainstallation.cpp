@@ -72,6 +72,16 @@ int updateDataInstallation(const char* file, _installation* in)
     return result;
 }
 
+int deleteDataInstallation(const char* file)
+{
+    if (file == nullptr)
+        return -4;
+    WorkDir wd;
+    if (!wd.enter(DIR_DATA_INSTALLATION))
+        return -2;
+    return myUnlink(file);
+}
+
 _installation* readInstallationFromFile(const char* file)
 {
     if (file == nullptr)

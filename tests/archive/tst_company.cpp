@@ -4,6 +4,7 @@
 #include "archive/insertcompany.h"
 #include "archive/listcompany.h"
 #include "archive/selectcompany.h"
+#include "archive/selectinstallation.h"
 #include "archive/viewcompany.h"
 #include "archivefixture.h"
 #include "data/datacompany.h"
@@ -233,6 +234,73 @@ private slots:
         touch(button(&d, "Reset"));
         QCOMPARE(text(&d, "surn"), QString());
         QVERIFY(!button(&d, "Salva")->isEnabled());
+    }
+
+    // ---- The installations of a company
+
+    void installationIsAddedThroughTheComboOnceAndSavedWithTheCompany()
+    {
+        TestRoot root(0.001);
+        addInstallation("Tetto", "Imola", "4", "12");
+        addInstallation("Capannone", "Lugo", "10", "30.5");
+        InsertCompany d(nullptr);
+        ModalDriver driver;
+        auto choose = [](const QString& row) {
+            return [row](QWidget* w) {
+                QComboBox* combo = w->findChild<QComboBox*>("installation");
+                combo->setCurrentIndex(combo->findText(row));
+                QTest::mouseClick(w->findChild<QPushButton*>("action"), Qt::LeftButton);
+            };
+        };
+        driver.onWindow("SelectInstallation", choose("Tetto (4/12 )"));
+        touch(button(&d, "add"));
+        QComboBox* combo = child<QComboBox>(&d, "installation");
+        QCOMPARE(combo->count(), 1);
+        QCOMPARE(combo->currentText(), QString("Tetto (4/12 )"));
+        driver.onWindow("SelectInstallation", choose("Tetto (4/12 )"));
+        driver.answerBox();
+        touch(button(&d, "add"));
+        QCOMPARE(driver.boxes.last().title, QString("Installazione inserita"));
+        QCOMPARE(driver.boxes.last().text, QString("Tetto (4/12 ) già presente."));
+        QCOMPARE(combo->count(), 1);
+        driver.onWindow("SelectInstallation", choose("Capannone (10/30.5 )"));
+        touch(button(&d, "add"));
+        QCOMPARE(combo->count(), 2);
+        enter(driver, &d, "surn", "Rossi");
+        enter(driver, &d, "code", "C0042");
+        driver.answerBox();
+        touch(button(&d, "Salva"));
+        QCOMPARE(driver.pending(), 0);
+        QByteArray file = companyFile(root, "rossi");
+        QVERIFY(file.contains("sinst = tetto\n"));
+        QVERIFY(file.contains("sinst = capannone\n"));
+    }
+
+    void selectingInstallationsHasAModeEachAndDeletingKeepsTheCompany()
+    {
+        TestRoot root(0.001);
+        addInstallation("Tetto", "Imola", "4", "12");
+        addCompany("Rossi", nullptr, "C0042", nullptr, {"tetto"});
+        {
+            SelectInstallation d(nullptr, SELECT_VIEW);
+            QCOMPARE(d.objectName(), QString("AddInstallation"));
+            QCOMPARE(d.findChild<InfoBar*>()->title(), QString("Aggiungere Installazione"));
+            QCOMPARE(button(&d, "action")->text(), QString("Agg."));
+            QListWidget* fields = child<QListWidget>(&d, "fields");
+            QCOMPARE(fields->item(0)->text(), QString("Città : Imola"));
+            QCOMPARE(fields->item(4)->text(), QString("Num. di stringhe : 4"));
+            QCOMPARE(fields->item(5)->text(), QString("Potenza Nominale : 12"));
+        }
+        SelectInstallation d(nullptr, SELECT_DELETE);
+        QCOMPARE(d.objectName(), QString("SelectDelInstallation"));
+        QCOMPARE(d.findChild<InfoBar*>()->title(), QString("Cancella Installazione"));
+        ModalDriver driver;
+        driver.answerBox(QMessageBox::Yes);
+        touch(button(&d, "action"));
+        QCOMPARE(driver.boxes.last().informative, QString("Conferma?"));
+        QVERIFY(!root.exists("/krm510data/datainstallation/tetto"));
+        QVERIFY(companyFile(root, "rossi").contains("sinst = tetto\n"));
+        QCOMPARE(child<QComboBox>(&d, "installation")->count(), 0);
     }
 
     // ---- Editing
@@ -521,6 +589,10 @@ private slots:
         for (_selectType mode : {SELECT_EDIT, SELECT_DELETE, SELECT_VIEW}) {
             SelectCompany d(nullptr, mode);
             shoot(&d, "company-" + d.objectName());
+        }
+        {
+            SelectInstallation d(nullptr, SELECT_VIEW);
+            shoot(&d, "company-select-installation");
         }
         {
             ListCompany d(nullptr);

@@ -37,13 +37,12 @@
 <context>
     <name>ArchivePanel</name>
     <message>
-        <location filename="../../../archive/archivepanel.cpp" line="+22"/>
-        <location line="+2"/>
+        <location filename="../../../archive/archivepanel.cpp" line="+19"/>
         <source>Archivio Moduli</source>
         <translation>Modularchiv</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+3"/>
         <source>Nuovo Modulo</source>
         <translation>Neues Modul</translation>
     </message>
@@ -1226,7 +1225,7 @@ Firmenname</translation>
         <translation>Firmenliste</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+4"/>
         <source>Apri</source>
         <translation>Öffnen</translation>
     </message>
@@ -1590,12 +1589,12 @@ Firmenname</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+118"/>
+        <location line="+114"/>
         <source>Cancella Azienda</source>
         <translation>Firma löschen</translation>
     </message>
     <message>
-        <location line="-117"/>
+        <location line="-113"/>
         <source>Modifica</source>
         <translation>Ändern</translation>
     </message>
@@ -1605,7 +1604,7 @@ Firmenname</translation>
         <translation>Firma wählen</translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+16"/>
         <source>Exit</source>
         <translation>Ende</translation>
     </message>
@@ -1661,6 +1660,81 @@ Firmenname</translation>
     </message>
     <message>
         <location line="+45"/>
+        <source>Conferma?</source>
+        <translation>Bestätigen?</translation>
+    </message>
+</context>
+<context>
+    <name>SelectInstallation</name>
+    <message>
+        <location filename="../../../archive/selectinstallation.cpp" line="+22"/>
+        <source>Agg.</source>
+        <translation>Hinzuf.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Aggiungere Installazione</source>
+        <translation>Anlage hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cancella</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+82"/>
+        <location line="+1"/>
+        <source>Cancella Installazione</source>
+        <translation>Anlage löschen</translation>
+    </message>
+    <message>
+        <location line="-81"/>
+        <source>Modifica</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Selezione Installazione</source>
+        <translation>Anlage wählen</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Exit</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>Città</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>CAP</source>
+        <translation>PLZ</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Via</source>
+        <translation>Straße</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Num. di stringhe</source>
+        <translation>Anz. Strings</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Nennleistung</translation>
+    </message>
+    <message>
+        <location line="+20"/>
         <source>Conferma?</source>
         <translation>Bestätigen?</translation>
     </message>

@@ -37,13 +37,12 @@
 <context>
     <name>ArchivePanel</name>
     <message>
-        <location filename="../../../archive/archivepanel.cpp" line="+22"/>
-        <location line="+2"/>
+        <location filename="../../../archive/archivepanel.cpp" line="+19"/>
         <source>Archivio Moduli</source>
         <translation>Pv module archive</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+3"/>
         <source>Nuovo Modulo</source>
         <translation>New module</translation>
     </message>
@@ -1226,7 +1225,7 @@ Company name</translation>
         <translation>Company list</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+4"/>
         <source>Apri</source>
         <translation>Open</translation>
     </message>
@@ -1590,12 +1589,12 @@ Company name</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+118"/>
+        <location line="+114"/>
         <source>Cancella Azienda</source>
         <translation>Delete company</translation>
     </message>
     <message>
-        <location line="-117"/>
+        <location line="-113"/>
         <source>Modifica</source>
         <translation>Edit</translation>
     </message>
@@ -1605,7 +1604,7 @@ Company name</translation>
         <translation>Select company</translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+16"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
@@ -1661,6 +1660,81 @@ Company name</translation>
     </message>
     <message>
         <location line="+45"/>
+        <source>Conferma?</source>
+        <translation>Confirm?</translation>
+    </message>
+</context>
+<context>
+    <name>SelectInstallation</name>
+    <message>
+        <location filename="../../../archive/selectinstallation.cpp" line="+22"/>
+        <source>Agg.</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Aggiungere Installazione</source>
+        <translation>Add installation</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cancella</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+82"/>
+        <location line="+1"/>
+        <source>Cancella Installazione</source>
+        <translation>Delete installation</translation>
+    </message>
+    <message>
+        <location line="-81"/>
+        <source>Modifica</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Selezione Installazione</source>
+        <translation>Select installation</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>Città</source>
+        <translation>City</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>CAP</source>
+        <translation>ZIP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Via</source>
+        <translation>Street</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Num. di stringhe</source>
+        <translation>No. of strings</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Rated power</translation>
+    </message>
+    <message>
+        <location line="+20"/>
         <source>Conferma?</source>
         <translation>Confirm?</translation>
     </message>

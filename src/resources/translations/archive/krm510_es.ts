@@ -37,13 +37,12 @@
 <context>
     <name>ArchivePanel</name>
     <message>
-        <location filename="../../../archive/archivepanel.cpp" line="+22"/>
-        <location line="+2"/>
+        <location filename="../../../archive/archivepanel.cpp" line="+19"/>
         <source>Archivio Moduli</source>
         <translation>Fichero de Módulos</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+3"/>
         <source>Nuovo Modulo</source>
         <translation>Nuevo módulo</translation>
     </message>
@@ -1226,7 +1225,7 @@ Denominación</translation>
         <translation>Lista empresas</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+4"/>
         <source>Apri</source>
         <translation>Abrir</translation>
     </message>
@@ -1590,12 +1589,12 @@ Denominación</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+118"/>
+        <location line="+114"/>
         <source>Cancella Azienda</source>
         <translation>Borrar empresa</translation>
     </message>
     <message>
-        <location line="-117"/>
+        <location line="-113"/>
         <source>Modifica</source>
         <translation>Modificar</translation>
     </message>
@@ -1605,7 +1604,7 @@ Denominación</translation>
         <translation>Selección empresa</translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+16"/>
         <source>Exit</source>
         <translation>Salir</translation>
     </message>
@@ -1661,6 +1660,81 @@ Denominación</translation>
     </message>
     <message>
         <location line="+45"/>
+        <source>Conferma?</source>
+        <translation>¿Confirmar?</translation>
+    </message>
+</context>
+<context>
+    <name>SelectInstallation</name>
+    <message>
+        <location filename="../../../archive/selectinstallation.cpp" line="+22"/>
+        <source>Agg.</source>
+        <translation>Añad.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Aggiungere Installazione</source>
+        <translation>Añadir instalación</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cancella</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+82"/>
+        <location line="+1"/>
+        <source>Cancella Installazione</source>
+        <translation>Borrar instalación</translation>
+    </message>
+    <message>
+        <location line="-81"/>
+        <source>Modifica</source>
+        <translation>Modificar</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Selezione Installazione</source>
+        <translation>Selección instalación</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>Città</source>
+        <translation>Ciudad</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>CAP</source>
+        <translation>CP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Via</source>
+        <translation>Calle</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Num. di stringhe</source>
+        <translation>Núm. de cadenas</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Potencia nominal</translation>
+    </message>
+    <message>
+        <location line="+20"/>
         <source>Conferma?</source>
         <translation>¿Confirmar?</translation>
     </message>

@@ -37,13 +37,12 @@
 <context>
     <name>ArchivePanel</name>
     <message>
-        <location filename="../../../archive/archivepanel.cpp" line="+22"/>
-        <location line="+2"/>
+        <location filename="../../../archive/archivepanel.cpp" line="+19"/>
         <source>Archivio Moduli</source>
         <translation>Archive modèles</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+3"/>
         <source>Nuovo Modulo</source>
         <translation>Nouveau module</translation>
     </message>
@@ -1226,7 +1225,7 @@ Raison sociale</translation>
         <translation>Liste entreprises</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+4"/>
         <source>Apri</source>
         <translation>Ouvrir</translation>
     </message>
@@ -1590,12 +1589,12 @@ Raison sociale</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+118"/>
+        <location line="+114"/>
         <source>Cancella Azienda</source>
         <translation>Effacer entreprise</translation>
     </message>
     <message>
-        <location line="-117"/>
+        <location line="-113"/>
         <source>Modifica</source>
         <translation>Modifier</translation>
     </message>
@@ -1605,7 +1604,7 @@ Raison sociale</translation>
         <translation>Sélection entreprise</translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+16"/>
         <source>Exit</source>
         <translation>Sortie</translation>
     </message>
@@ -1661,6 +1660,81 @@ Raison sociale</translation>
     </message>
     <message>
         <location line="+45"/>
+        <source>Conferma?</source>
+        <translation>Confirmer?</translation>
+    </message>
+</context>
+<context>
+    <name>SelectInstallation</name>
+    <message>
+        <location filename="../../../archive/selectinstallation.cpp" line="+22"/>
+        <source>Agg.</source>
+        <translation>Ajout.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Aggiungere Installazione</source>
+        <translation>Ajouter installation</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cancella</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+82"/>
+        <location line="+1"/>
+        <source>Cancella Installazione</source>
+        <translation>Effacer installation</translation>
+    </message>
+    <message>
+        <location line="-81"/>
+        <source>Modifica</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Selezione Installazione</source>
+        <translation>Sélection installation</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Exit</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>Città</source>
+        <translation>Ville</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>CAP</source>
+        <translation>CP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Prov.</source>
+        <translation>Dép.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Via</source>
+        <translation>Rue</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Num. di stringhe</source>
+        <translation>Nb. de chaînes</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Puissance nominale</translation>
+    </message>
+    <message>
+        <location line="+20"/>
         <source>Conferma?</source>
         <translation>Confirmer?</translation>
     </message>

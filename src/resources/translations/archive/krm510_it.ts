@@ -37,13 +37,12 @@
 <context>
     <name>ArchivePanel</name>
     <message>
-        <location filename="../../../archive/archivepanel.cpp" line="+22"/>
-        <location line="+2"/>
+        <location filename="../../../archive/archivepanel.cpp" line="+19"/>
         <source>Archivio Moduli</source>
         <translation>Archivio Moduli</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+3"/>
         <source>Nuovo Modulo</source>
         <translation>Nuovo Modulo</translation>
     </message>
@@ -1226,7 +1225,7 @@ Denominazione</translation>
         <translation>Lista Aziende</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+4"/>
         <source>Apri</source>
         <translation>Apri</translation>
     </message>
@@ -1590,12 +1589,12 @@ Denominazione</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+118"/>
+        <location line="+114"/>
         <source>Cancella Azienda</source>
         <translation>Cancella Azienda</translation>
     </message>
     <message>
-        <location line="-117"/>
+        <location line="-113"/>
         <source>Modifica</source>
         <translation>Modifica</translation>
     </message>
@@ -1605,7 +1604,7 @@ Denominazione</translation>
         <translation>Selezione Azienda</translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+16"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
@@ -1661,6 +1660,81 @@ Denominazione</translation>
     </message>
     <message>
         <location line="+45"/>
+        <source>Conferma?</source>
+        <translation>Conferma?</translation>
+    </message>
+</context>
+<context>
+    <name>SelectInstallation</name>
+    <message>
+        <location filename="../../../archive/selectinstallation.cpp" line="+22"/>
+        <source>Agg.</source>
+        <translation>Agg.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Aggiungere Installazione</source>
+        <translation>Aggiungere Installazione</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cancella</source>
+        <translation>Cancella</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+82"/>
+        <location line="+1"/>
+        <source>Cancella Installazione</source>
+        <translation>Cancella Installazione</translation>
+    </message>
+    <message>
+        <location line="-81"/>
+        <source>Modifica</source>
+        <translation>Modifica</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Selezione Installazione</source>
+        <translation>Selezione Installazione</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>Città</source>
+        <translation>Città</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>CAP</source>
+        <translation>CAP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Via</source>
+        <translation>Via</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Num. di stringhe</source>
+        <translation>Num. di stringhe</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Potenza Nominale</translation>
+    </message>
+    <message>
+        <location line="+20"/>
         <source>Conferma?</source>
         <translation>Conferma?</translation>
     </message>
