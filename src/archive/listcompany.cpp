@@ -3,6 +3,7 @@
 #include "archive/viewcompany.h"
 #include "data/datacompany.h"
 #include "data/storedtext.h"
+#include "toolkit/tabcolumns.h"
 
 #include <QListWidget>
 #include <QPushButton>
@@ -13,6 +14,7 @@ ListCompany::ListCompany(QWidget* parent)
 {
     _list = new QListWidget;
     _list->setObjectName("list");
+    new TabColumns(_list);
     _buttonOpen = formButton(":/icon/archiveList.png", tr("Apri"), "Apri");
     _buttonExit = formButton(":/icon/exit.png", tr("Exit"), "Exit");
     QVBoxLayout* form = new QVBoxLayout;

@@ -2,6 +2,7 @@
 
 #include "data/datainstallation.h"
 #include "data/storedtext.h"
+#include "toolkit/tabcolumns.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -33,6 +34,7 @@ ViewCompany::ViewCompany(QWidget* parent, _company* company)
     }
     _listInstallation = new QListWidget;
     _listInstallation->setObjectName("installations");
+    new TabColumns(_listInstallation);
     _buttonView = formButton(":/icon/archiveList.png", tr("Visualizza"), "Visualizza");
     _buttonView->setEnabled(false);
     _buttonExit = formButton(":/icon/exit.png", tr("Exit"), "Exit");
