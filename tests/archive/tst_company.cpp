@@ -91,8 +91,10 @@ class TestCompany : public QObject
         ~Edited() { freeCompany(record); }
     };
 
-private slots:
+public:
     static void initMain() { useInstrumentScreen(); }
+
+private slots:
     void initTestCase()
     {
         useInstrumentDpi();
