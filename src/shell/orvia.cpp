@@ -1,5 +1,6 @@
 #include "shell/orvia.h"
 
+#include "archive/archivecompany.h"
 #include "archive/archivemeasures.h"
 #include "archive/archivepanel.h"
 #include "data/datasetting.h"
@@ -97,6 +98,7 @@ Orvia::Orvia()
     connect(_buttonPanel, &QPushButton::clicked, this, &Orvia::goToPanelIV);
     connect(_buttonString, &QPushButton::clicked, this, &Orvia::goToStringIV);
     connect(_buttonArchivePanel, &QPushButton::clicked, this, &Orvia::goToArchivePanel);
+    connect(_buttonArchiveCompany, &QPushButton::clicked, this, &Orvia::goToArchiveCompany);
     connect(_buttonArchiveMeasures, &QPushButton::clicked, this, &Orvia::goToArchiveMeasures);
     connect(_buttonUsb, &QPushButton::clicked, this, &Orvia::goToUsbDialog);
     showMaximized();
@@ -199,6 +201,13 @@ void Orvia::goToArchivePanel()
     delete screen;
 }
 
+void Orvia::goToArchiveCompany()
+{
+    ArchiveCompany* screen = new ArchiveCompany(this);
+    screen->exec();
+    delete screen;
+}
+
 void Orvia::goToArchiveMeasures()
 {
     ArchiveMeasures* screen = new ArchiveMeasures(this);
@@ -234,6 +243,8 @@ void Orvia::keyPressEvent(QKeyEvent* event)
             goToStringIV();
         if (_buttonArchivePanel->hasFocus())
             goToArchivePanel();
+        if (_buttonArchiveCompany->hasFocus())
+            goToArchiveCompany();
         if (_buttonArchiveMeasures->hasFocus())
             goToArchiveMeasures();
         if (_buttonUsb->hasFocus())
