@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace sim
 {
@@ -484,9 +485,46 @@ void PvSource::buildCache() const
         return;
     const int n = 2000;
     std::vector<double> p(n + 1);
+    // With a shunt each terminal point costs a search of the cell current;
+    // the table then steps the cell current instead, from open circuit to
+    // short circuit, at the cost of one cell voltage a point.
+    const double rsh = modules * shuntR, series = modules * addedRs;
+    double cellOpen = 0.0, cellShort = 0.0;
+    if (shuntR > 0.0) {
+        auto rising = [](const std::function<double(double)>& f, double lo, double hi) {
+            for (int i = 0; i < 60; i++) {
+                double mid = 0.5 * (lo + hi);
+                (f(mid) < 0 ? lo : hi) = mid;
+            }
+            return 0.5 * (lo + hi);
+        };
+        const double top = now.iph * 1.2 + 0.1;
+        cellOpen = rising([&](double c) { return c - cellsVoltageAt(c) / rsh; }, 0.0, top);
+        cellShort = rising(
+            [&](double c) {
+                double vc = cellsVoltageAt(c);
+                return series * (c - vc / rsh) - vc;
+            },
+            cellOpen, top);
+    }
     for (int k = 0; k <= n; k++) {
-        double i = f.isc * k / n;
-        double v = k == 0 ? f.voc : k == n ? 0.0 : voltageAt(i);
+        double i, v;
+        if (shuntR > 0.0) {
+            double c = cellOpen + (cellShort - cellOpen) * k / n;
+            double vc = cellsVoltageAt(c);
+            i = c - vc / rsh;
+            v = vc - series * i;
+        } else {
+            i = f.isc * k / n;
+            v = voltageAt(i);
+        }
+        if (k == 0) {
+            i = 0.0;
+            v = f.voc;
+        } else if (k == n) {
+            i = f.isc;
+            v = 0.0;
+        }
         tableI.push_back(i);
         tableV.push_back(v);
         p[static_cast<size_t>(k)] = i * v;
@@ -520,6 +558,10 @@ void PvSource::buildCache() const
         if (p[static_cast<size_t>(k)] > p[static_cast<size_t>(best)])
             best = k;
     double lo = f.isc * std::max(0, best - 1) / n, hi = f.isc * std::min(n, best + 1) / n;
+    if (shuntR > 0.0) { // the table's currents are not evenly spaced then
+        lo = tableI[static_cast<size_t>(std::max(0, best - 1))];
+        hi = tableI[static_cast<size_t>(std::min(n, best + 1))];
+    }
     auto power = [this](double i) { return i * voltageAt(i); };
     const double r = 0.5 * (std::sqrt(5.0) - 1.0);
     for (int i = 0; i < 60; i++) {

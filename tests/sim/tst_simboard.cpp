@@ -188,6 +188,18 @@ private slots:
         QCOMPARE(counts(), clean);
         QVERIFY(!sim.setFault("noise -1"));
     }
+    void rampRightAfterAShuntFaultAnswersInTime()
+    {
+        TestRoot root;
+        SimInstrument sim(root);
+        QVERIFY(sim.setSeries(4));
+        QVERIFY(sim.setFault("shunt 20"));
+        TermiosClient line(root.path("/dev/ttyS1"));
+        const QByteArray ramp("ramp 512 1 0 1000 2300\r");
+        const QByteArray reply = line.exchange(ramp);
+        QCOMPARE(dataLines(reply, ramp).size(), 512);
+        QCOMPARE(status(reply), 0);
+    }
     void heatSinkWarmsWithEachRamp()
     {
         TestRoot root;
