@@ -33,20 +33,19 @@ class Iec60891
 {
 public:
     // The measure's record with its reference module (mcomp 1).
-    explicit Iec60891(const _measure& record,
-                      double kappaPerModule = thresholds::kappaPerModule);
+    explicit Iec60891(const _measure& record, double kappaPerModule = thresholds::kappaPerModule);
 
     bool valid() const { return ok; }
 
     // The coefficients used, for the whole string.
-    double alpha = 0;    // A/K, from the data sheet's kisc
-    double beta = 0;     // V/K, from the data sheet's kvoc
-    double alphaRel = 0; // 1/K
-    double betaRel = 0;  // 1/K
-    double rs = 0;       // ohm, fitted to the measured points
-    double diodeA = 0;   // V, the fitted a (n Ns kT/q)
+    double alpha = 0;      // A/K, from the data sheet's kisc
+    double beta = 0;       // V/K, from the data sheet's kvoc
+    double alphaRel = 0;   // 1/K
+    double betaRel = 0;    // 1/K
+    double rs = 0;         // ohm, fitted to the measured points
+    double diodeA = 0;     // V, the fitted a (n Ns kT/q)
     bool rsFitted = false; // false: Rs from the data sheet's closed form
-    double kappa = 0;    // ohm/K
+    double kappa = 0;      // ohm/K
 
     IecFigures procedure1;
     IecFigures procedure2;

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-MeasuredCurve::MeasuredCurve(const _measure& record)
-    : iscA(record.misc), vocV(record.mvoc)
+MeasuredCurve::MeasuredCurve(const _measure& record) : iscA(record.misc), vocV(record.mvoc)
 {
     for (int k = firstSlot; k <= lastSlot; k += slotStep)
         pts.push_back({record.ramp.tensione[k], record.ramp.corrente[k]});

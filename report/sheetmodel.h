@@ -19,7 +19,7 @@ public:
     bool valid() const { return ok; }
     double isc() const { return iscA; }
     double voc() const { return vocV; }
-    double a() const { return aV; }   // of the whole string
+    double a() const { return aV; }     // of the whole string
     double rs() const { return rsOhm; } // of the whole string
     double voltageAt(double current) const;
     double currentAt(double voltage) const;

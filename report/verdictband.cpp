@@ -16,7 +16,7 @@ VerdictBand::VerdictBand(const _measure& record)
     deviation = record.mdpmax;
     lowerLimit = -std::fabs(record.ref.tollm);
     upperLimit = std::fabs(record.ref.tollp);
-    inconclusive = std::fabs(deviation - lowerLimit) <= band ||
-                   std::fabs(deviation - upperLimit) <= band;
+    inconclusive =
+        std::fabs(deviation - lowerLimit) <= band || std::fabs(deviation - upperLimit) <= band;
     ok = std::isfinite(deviation) && std::isfinite(band);
 }

@@ -1,61 +1,197 @@
+#include "curvediagnosis.h"
 #include "reportmeasure.h"
 
 #include "data/datasetting.h"
 #include "device/gpiopd.h"
 #include "measure/panelfixture.h"
-#include "support/simmeasure.h"
 #include "support/siminstrument.h"
+#include "support/simmeasure.h"
 #include "support/testroot.h"
 
-#include <QFile>
 #include <QtTest>
 
+#include <cmath>
+#include <cstring>
+#include <memory>
+
+// What the report reads from a curve's shape, on the simulated instrument
+// whose faults we set: one module and a string of 4, at 800 W/m2 and 40
+// degrees C, with Gaussian noise of 2 counts on the board's readings.
 class TestCurveDiagnosis : public QObject
 {
     Q_OBJECT
-private slots:
-    void dump()
+
+    std::unique_ptr<TestRoot> root;
+    std::unique_ptr<SimInstrument> sim;
+    _configParam config{};
+    int taken = 0;
+    _measure last{}; // the record of the last curve diagnosed
+
+    // The fault set on a clean source, the curve measured and saved as the
+    // screens save it, read back as the report reads it, and diagnosed.
+    CurveDiagnosis diagnose(int modules, const QList<QByteArray>& faults, int probe = PROBE_MODULE)
     {
-        TestRoot root(0.1);
-        SimInstrument sim(root);
-        QVERIFY(sim.isRunning());
-        _configParam c;
-        defaultConfig(&c);
-        root.mkdir("/krm510data/datameastring");
-        root.mkdir("/krm510data/datameapanel");
-        QVERIFY(sim.setAdapter(true));
-        QVERIFY(sim.setIrradiance(1000));
-        QVERIFY(sim.setCellTemperature(60));
-        QVERIFY(sim.command("set tmodule cell"));
-        QCOMPARE(powerDeviceStart(0) >= 0, true);
-        const _panelFeature ref = panelfixture::simulatedSheet();
-        const char* faults[] = {"none"};// "shade 0.8 0 0", "shade 0.5 0 0", "shade 0.2 0 0",
-                                
-        int n = 0;
+        sim->setSeries(modules);
+        sim->setFault("none");
+        for (const QByteArray& f : faults)
+            if (!sim->setFault(f))
+                qWarning("fault refused: %s", f.constData());
+        sim->setFault("noise 2 5");
+        sim->value("pv figures"); // the source's tables, before the board asks
+        SimMeasure how;
+        how.modules = modules;
+        how.irradiance = 800;
+        how.temperature = 40;
+        how.probe = probe;
+        const QByteArray time =
+            QStringLiteral("12:%1:00").arg(taken++, 2, 10, QChar('0')).toLatin1();
+        how.time = time.constData();
+        const QString file = takeSimulatedMeasure(config, panelfixture::simulatedSheet(), how);
+        ReportMeasure m;
+        QString error;
+        if (file.isEmpty() || !m.load(file, modules > 1 ? MEA_STRING : MEA_PANEL, &error))
+            qWarning("no measure: %s", qPrintable(error));
+        last = m.record;
+        const CurveDiagnosis d(m.record);
+        QString line = QStringLiteral("%1 module(s), %2:")
+                           .arg(modules)
+                           .arg(QString::fromLatin1(faults.join(" + ")));
+        for (const Finding& f : d.findings)
+            line += QStringLiteral(" [kind %1 measured %2 expected %3 at %4 V, %5 ohm/module]")
+                        .arg(f.kind)
+                        .arg(f.measured, 0, 'f', 3)
+                        .arg(f.expected, 0, 'f', 3)
+                        .arg(f.voltage, 0, 'f', 1)
+                        .arg(f.ohmPerModule, 0, 'f', 2);
+        if (d.findings.empty())
+            line += " no finding";
+        qInfo("%s", qPrintable(line));
+        return d;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        root = std::make_unique<TestRoot>(0.1);
+        sim = std::make_unique<SimInstrument>(*root);
+        QVERIFY(sim->isRunning());
+        defaultConfig(&config);
+        root->mkdir("/krm510data/datameastring");
+        root->mkdir("/krm510data/datameapanel");
+        QVERIFY(sim->setAdapter(true));
+        QVERIFY(sim->setIrradiance(800));
+        QVERIFY(sim->setCellTemperature(40));
+        QVERIFY(sim->command("set tmodule cell"));
+        QVERIFY(powerDeviceStart(0) >= 0);
+    }
+
+    void cleanupTestCase()
+    {
+        sim.reset();
+        root.reset();
+    }
+
+    void cleanSourceGivesNoFinding()
+    {
+        for (int modules : {1, 4})
+            QVERIFY(diagnose(modules, {}).healthy());
+    }
+
+    void shadedSubstringGivesAStepAtItsShareOfIsc()
+    {
         for (int modules : {1, 4}) {
-            QVERIFY(sim.setSeries(modules));
-            for (const char* f : faults) {
-                QVERIFY(sim.setFault("none"));
-                QVERIFY(sim.setFault(f));
-                QVERIFY(sim.setFault("noise 2 3"));
-                const QByteArray figures = sim.value("pv figures");
-                SimMeasure how;
-                how.modules = modules;
-                how.irradiance = 1000;
-                how.temperature = 60;
-                const QByteArray t = QStringLiteral("10:%1:00").arg(n++, 2, 10, QChar('0')).toLatin1();
-                how.time = t.constData();
-                const QString file = takeSimulatedMeasure(c, ref, how);
-                QVERIFY(!file.isEmpty());
-                ReportMeasure m;
-                QString error;
-                QVERIFY2(m.load(file, modules > 1 ? MEA_STRING : MEA_PANEL, &error), qPrintable(error));
-                QFile out(QStringLiteral("/tmp/iec-%1-%2.csv").arg(modules).arg(QString(f).replace(' ', '_')));
-                QVERIFY(out.open(QIODevice::WriteOnly));
-                out.write(QStringLiteral("# isc %1 voc %2 pmax %3 fig %4\n").arg(m.record.misc).arg(m.record.mvoc).arg(m.record.mpmax).arg(QString(figures)).toUtf8());
-                for (int k = 0; k < 512; k++)
-                    out.write(QStringLiteral("%1,%2,%3\n").arg(k).arg(m.record.ramp.tensione[k]).arg(m.record.ramp.corrente[k]).toUtf8());
+            for (double shade : {0.8, 0.5, 0.2}) {
+                const CurveDiagnosis d =
+                    diagnose(modules, {"shade " + QByteArray::number(shade) + " 0 0"});
+                const Finding* step = d.first(Finding::Step);
+                QVERIFY(step != nullptr);
+                QVERIFY2(std::fabs(step->measured - shade) < 0.05,
+                         qPrintable(QString::number(step->measured)));
+                QVERIFY(!d.has(Finding::LowFillFactor));
             }
+        }
+    }
+
+    void lightShadeNeedNotBeFound()
+    {
+        // 0.95 or lighter is not required either way: only that nothing
+        // else is made of it
+        for (int modules : {1, 4}) {
+            const CurveDiagnosis d = diagnose(modules, {"shade 0.95 0 0"});
+            QVERIFY(!d.has(Finding::VocDeficit));
+            QVERIFY(!d.has(Finding::SteepIscSlope));
+        }
+    }
+
+    void shortedBypassDiodeGivesAVocDeficitOfOneSubstring()
+    {
+        for (int modules : {1, 4}) {
+            const CurveDiagnosis d = diagnose(modules, {"bypass short 0 0"});
+            const Finding* f = d.first(Finding::VocDeficit);
+            QVERIFY(f != nullptr);
+            QVERIFY2(std::fabs(f->measured - 1.0) < 0.2, qPrintable(QString::number(f->measured)));
+            QVERIFY(!d.has(Finding::Step));
+        }
+        // modules of six substrings (--substrings 6): the same volts are two
+        const CurveDiagnosis six(last, 6);
+        const Finding* f = six.first(Finding::VocDeficit);
+        QVERIFY(f != nullptr);
+        QVERIFY2(std::fabs(f->measured - 2.0) < 0.3, qPrintable(QString::number(f->measured)));
+    }
+
+    void withoutReferenceOnlyTheStepsAreLookedFor()
+    {
+        diagnose(1, {"shade 0.5 0 0", "rs 1"});
+        _measure m = last;
+        m.mcomp = 0;
+        std::memset(&m.ref, 0, sizeof m.ref);
+        const CurveDiagnosis d(m);
+        QVERIFY(!d.reference);
+        QCOMPARE(d.findings.size(), size_t(1));
+        QCOMPARE(d.findings[0].kind, Finding::Step);
+    }
+
+    void vocDeficitIsNotJudgedWhenTheTemperatureCameFromVoc()
+    {
+        const CurveDiagnosis d = diagnose(1, {"bypass short 0 0"}, PROBE_AUTO);
+        QVERIFY(!d.vocJudged);
+        QVERIFY(!d.has(Finding::VocDeficit));
+    }
+
+    void shadeBehindAnOpenBypassDiodeLooksLikeLowCurrent()
+    {
+        for (int modules : {1, 4}) {
+            const CurveDiagnosis d = diagnose(modules, {"shade 0.5 0 0", "bypass open 0 0"});
+            const Finding* f = d.first(Finding::LowCurrent);
+            QVERIFY(f != nullptr);
+            QVERIFY2(std::fabs(f->measured - 0.5) < 0.1, qPrintable(QString::number(f->measured)));
+            QVERIFY(!d.has(Finding::Step));
+        }
+    }
+
+    void addedSeriesResistanceGivesAShallowSlopeNearVoc()
+    {
+        for (int modules : {1, 4}) {
+            const CurveDiagnosis d = diagnose(modules, {"rs 1"});
+            const Finding* f = d.first(Finding::ShallowVocSlope);
+            QVERIFY(f != nullptr);
+            QVERIFY2(std::fabs(f->ohmPerModule - 1.0) < 0.3,
+                     qPrintable(QString::number(f->ohmPerModule)));
+            QVERIFY(!d.has(Finding::SteepIscSlope));
+            QVERIFY(!d.has(Finding::LowFillFactor));
+        }
+    }
+
+    void lowShuntGivesASteepSlopeNearIsc()
+    {
+        for (int modules : {1, 4}) {
+            const CurveDiagnosis d = diagnose(modules, {"shunt 20"});
+            const Finding* f = d.first(Finding::SteepIscSlope);
+            QVERIFY(f != nullptr);
+            QVERIFY2(std::fabs(f->ohmPerModule - 20.0) < 4.0,
+                     qPrintable(QString::number(f->ohmPerModule)));
+            QVERIFY(!d.has(Finding::ShallowVocSlope));
+            QVERIFY(!d.has(Finding::LowFillFactor));
         }
     }
 };

@@ -4,8 +4,8 @@
 #include "data/datasetting.h"
 #include "device/gpiopd.h"
 #include "measure/panelfixture.h"
-#include "support/simmeasure.h"
 #include "support/siminstrument.h"
+#include "support/simmeasure.h"
 #include "support/testroot.h"
 
 #include <QtTest>
