@@ -119,11 +119,12 @@
     </message>
     <message>
         <location line="+6"/>
+        <location line="+225"/>
         <source>Impianto %1</source>
         <translation>Instalación %1</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="-222"/>
         <source>Numero di stringhe</source>
         <translation>Número de cadenas</translation>
     </message>
@@ -204,11 +205,12 @@
     </message>
     <message>
         <location line="+8"/>
+        <location line="+171"/>
         <source>Modulo di riferimento</source>
         <translation>Módulo de referencia</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="-166"/>
         <source>Marca</source>
         <translation>Marca</translation>
     </message>
@@ -260,12 +262,12 @@
     <message>
         <location line="+6"/>
         <location line="+33"/>
-        <location line="+229"/>
+        <location line="+234"/>
         <source>nessun riferimento</source>
         <translation>sin referencia</translation>
     </message>
     <message>
-        <location line="-257"/>
+        <location line="-262"/>
         <source>Valori misurati</source>
         <translation>Valores medidos</translation>
     </message>
@@ -345,12 +347,7 @@
         <translation>Comparación de las cadenas</translation>
     </message>
     <message>
-        <location line="+1"/>
-        <source>Impianto %1 - modulo di riferimento %2 %3</source>
-        <translation>Instalación %1 - módulo de referencia %2 %3</translation>
-    </message>
-    <message>
-        <location line="+2"/>
+        <location line="+8"/>
         <source>Valori a condizioni standard per modulo (Voc e Pmax divise per i moduli in serie; la corrente di una stringa in serie è quella di ogni suo modulo).</source>
         <translation>Valores en condiciones estándar por módulo (Voc y Pmax divididas por los módulos en serie; la corriente de una cadena en serie es la de cada uno de sus módulos).</translation>
     </message>

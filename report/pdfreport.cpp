@@ -197,7 +197,7 @@ void PdfReport::subheading(const QString& text)
 
 void PdfReport::field(const QString& label, const QString& value, double x, double width)
 {
-    const double labelWidth = width > 400 ? 270 : width * 0.5;
+    const double labelWidth = width > 400 ? 330 : width * 0.5;
     painter->setPen(Qt::black);
     painter->setFont(font(bodySize));
     painter->drawText(QRectF(x, y, labelWidth - 4, lineHeight), Qt::AlignLeft | Qt::AlignVCenter,
@@ -356,13 +356,13 @@ void PdfReport::measurePage(const ReportInstallation& installation, const Report
 
     // the figures, at operating and at standard conditions
     subheading(tr("Valori misurati"));
-    const double c0 = margin, c1 = margin + 140, c2 = margin + 290;
+    const double c0 = margin, c1 = margin + 120, c2 = margin + 300;
     auto row = [&](const QString& label, const QString& opc, const QString& stc, bool bold) {
         painter->setFont(font(bodySize, bold));
         painter->setPen(Qt::black);
-        painter->drawText(QRectF(c0, y, 140, lineHeight), Qt::AlignLeft | Qt::AlignVCenter, label);
-        painter->drawText(QRectF(c1, y, 140, lineHeight), Qt::AlignRight | Qt::AlignVCenter, opc);
-        painter->drawText(QRectF(c2, y, 170, lineHeight), Qt::AlignRight | Qt::AlignVCenter, stc);
+        painter->drawText(QRectF(c0, y, 120, lineHeight), Qt::AlignLeft | Qt::AlignVCenter, label);
+        painter->drawText(QRectF(c1, y, 170, lineHeight), Qt::AlignRight | Qt::AlignVCenter, opc);
+        painter->drawText(QRectF(c2, y, 200, lineHeight), Qt::AlignRight | Qt::AlignVCenter, stc);
         y += lineHeight;
     };
     const bool ref = m.hasReference();
@@ -498,7 +498,12 @@ void PdfReport::comparisonPage(const ReportInstallation& installation,
     footerText = installation.id;
     const StringComparison::Group& g = comparison.groups[size_t(group)];
     heading(tr("Confronto delle stringhe"));
-    line(tr("Impianto %1 - modulo di riferimento %2 %3").arg(installation.id, g.brand, g.model),
+    // a chosen set of measures belongs to no installation
+    const QString reference =
+        tr("Modulo di riferimento") + QLatin1Char(' ') + g.brand + QLatin1Char(' ') + g.model;
+    line(installation.id.isEmpty()
+             ? reference
+             : tr("Impianto %1").arg(installation.id) + QStringLiteral(" - ") + reference,
          true);
     line(tr("Valori a condizioni standard per modulo (Voc e Pmax divise per i moduli in serie; "
             "la corrente di una stringa in serie è quella di ogni suo modulo)."));

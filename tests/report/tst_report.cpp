@@ -5,15 +5,15 @@
 #include "data/datacompany.h"
 #include "data/datainstallation.h"
 #include "data/datameasures.h"
-#include "data/datasetting.h"
-#include "device/gpiopd.h"
-#include "device/powerdevice.h"
-#include "math/curvechain.h"
-#include "math/temperatura.h"
 #include "measure/panelfixture.h"
+#include "measure/screenkinds.h"
+#include "measure/stringIV.h"
 #include "support/datafiles.h"
+#include "support/modaldriver.h"
+#include "support/screenshot.h"
 #include "support/siminstrument.h"
 #include "support/testroot.h"
+#include "toolkit/look.h"
 
 #include <QDir>
 #include <QProcess>
@@ -116,69 +116,48 @@ class TestReport : public QObject
 
     // ---- The end-to-end installation on the simulated instrument.
 
-    // One string taken on the simulated instrument as the string screen takes
-    // it: the board's ramp and end points, converted with the instrument's
-    // calibration, translated with the reference module at the irradiance and
-    // cell temperature of the simulated world (the module probe on its back),
-    // judged, and saved through the data layer.
-    static QString measureString(const _configParam& c, const _panelFeature& ref, int modules,
-                                 float g, float t, const char* time, const char* comment)
+    // One string measured and saved on the string screen as the operator
+    // does it: the count on the pad, "Start", the reference module chosen once
+    // with "Confronto" (no ageing allowance, then or after), "Salva" with the
+    // time and the comment typed on the keyboard.
+    static void measureOnTheStringScreen(StringIV& screen, const SimInstrument& sim, bool first,
+                                         const QString& time, const QString& comment)
     {
-        PowerDevice board;
-        _raw_ramp_iv raw;
-        if (board.acquireBrask(&raw, nullptr) != PD_OK)
-            return QString();
-        _info_last info;
-        std::memset(&info, 0, sizeof info);
-        board.acquireLastInfo(&info);
-        CurveFigures measured;
-        measuredEndPoints(&info, &c, &measured.isc, &measured.voc);
-        _ramp_iv exact, rounded, stc, stcSmooth;
-        measured.pmax = 0;
-        measured.vmpp = 0;
-        measured.impp = 0;
-        convertRamp(&raw, &c, &exact, &rounded, &measured.pmax, &measured.vmpp, &measured.impp);
-        const float cell = calcola_temperatura(PROBE_MODULE, modules, t, g, measured.voc, &ref);
-        CurveFigures s;
-        translateToStc(&rounded, &measured, g, cell, &ref, &stc, &stcSmooth, &s);
-        const Verdict verdict = stringVerdict(modules, s.pmax, &ref, 0);
-
-        _measure m;
-        std::memset(&m, 0, sizeof m);
-        m.mdata = const_cast<char*>("2026/05/04");
-        m.mtime = const_cast<char*>(time);
-        m.mnpan = modules;
-        m.misc = measured.isc;
-        m.mvoc = measured.voc;
-        m.mimpp = measured.impp;
-        m.mvmpp = measured.vmpp;
-        m.mpmax = measured.pmax;
-        m.mtemp = cell;
-        m.mprobe = PROBE_MODULE;
-        m.mirr = g;
-        m.mcomp = 1;
-        m.sisc = s.isc;
-        m.svoc = s.voc;
-        m.simpp = s.impp;
-        m.svmpp = s.vmpp;
-        m.spmax = s.pmax;
-        m.mdpmax = verdict.deltaPmax;
-        m.mtest = verdict.result;
-        m.mcom = const_cast<char*>(comment);
-        m.rname = const_cast<char*>("SIM 250");
-        m.rbname = const_cast<char*>("Simul");
-        m.ref = ref;
-        m.ramp = exact;
-        if (saveMeasuresData(&m, MEA_STRING, 4711) <= 0)
-            return QString();
-        char name[MEASURE_NAME_SIZE];
-        measureFileName(m.mdata, m.mtime, name);
-        return QString::fromLatin1(name);
+        ModalDriver driver;
+        screenkinds::coolHeatSink(sim);
+        screenkinds::enterCount(driver, 4);
+        if (!first)
+            driver.onNext([](QWidget* w) { panelfixture::touch(w, "Non Applicare"); });
+        panelfixture::touch(&screen, "Start");
+        if (first) {
+            driver.onNext(
+                [](QWidget* r) { panelfixture::chooseInReferenceDialog(r, "Simul", "SIM 250"); });
+            driver.onNext([](QWidget* w) { panelfixture::touch(w, "Non Applicare"); });
+            panelfixture::touch(&screen, "Confronto");
+        }
+        driver.onNext([time, comment](QWidget* w) {
+            ModalDriver keys;
+            keys.typeOnKeyboard(time);
+            QTest::mouseClick(panelfixture::child<QLineEdit>(w, "Ora"), Qt::LeftButton);
+            keys.typeOnKeyboard(comment);
+            QTest::mouseClick(panelfixture::child<QLineEdit>(w, "Commento"), Qt::LeftButton);
+            panelfixture::touch(w, "Salva");
+        });
+        driver.answerBox();
+        panelfixture::touch(&screen, "Salva");
+        if (driver.pending() != 0 || driver.boxes.size() != 1 ||
+            driver.boxes[0].text != "Misura Salvata.")
+            qWarning("string %s not saved: %d windows not met", qPrintable(time), driver.pending());
     }
+
+public:
+    static void initMain() { useInstrumentScreen(); }
 
 private slots:
     void initTestCase()
     {
+        useInstrumentDpi();
+        setInstrumentLook();
         QVERIFY2(!QStandardPaths::findExecutable("pdftotext").isEmpty(),
                  "pdftotext (poppler-utils) is needed");
     }
@@ -542,6 +521,26 @@ private slots:
         QVERIFY(!run.err.contains("Reading measures"));
     }
 
+    // ---- How the temperature was obtained.
+
+    void temperatureSourceIsNamedForEveryProbeMode()
+    {
+        const QStringList texts{"sonda ambiente", "sonda sul modulo", "automatica da Voc",
+                                "manuale"};
+        const QStringList words{"ambient", "module", "auto", "manual"};
+        ReportInstallation installation;
+        for (int mode = PROBE_AMBIENT; mode <= PROBE_MANUAL; mode++) {
+            ReportMeasure m;
+            m.record.mprobe = mode;
+            QCOMPARE(m.probeText(), texts[mode]);
+            const QStringList cells = CsvReport::summaryRow(installation, m).split(',');
+            QCOMPARE(cells[CsvReport::summaryColumns().indexOf("temperature_source")], words[mode]);
+        }
+        ReportMeasure odd;
+        odd.record.mprobe = 7;
+        QCOMPARE(odd.probeText(), QString("sconosciuta (7)"));
+    }
+
     // ---- The comparison of strings.
 
     void comparisonMedianOfOddAndEvenCounts()
@@ -602,28 +601,29 @@ private slots:
         TestRoot root(0.1);
         SimInstrument sim(root);
         QVERIFY(sim.isRunning());
-        _configParam c;
-        defaultConfig(&c);
-        root.mkdir("/krm510data/datameastring");
+        // the instrument's serial number, which every measure file carries
+        panelfixture::configure(root, [](_configParam& c) { c.sn = 4711; });
         root.mkdir("/krm510data/datacompany");
         root.mkdir("/krm510data/datainstallation");
-        QVERIFY(sim.setAdapter(true));
+        QVERIFY(panelfixture::addModule("Simul", "simul", "SIM 250", "sim_250",
+                                        panelfixture::simulatedSheet()));
+        QVERIFY(panelfixture::world(sim, 900, 40));
         QVERIFY(sim.setSeries(4));
-        QVERIFY(sim.setIrradiance(900));
-        QVERIFY(sim.setCellTemperature(40));
-        QVERIFY(sim.command("set tmodule cell"));
-        QCOMPARE(powerDeviceStart(0) >= 0, true);
-        const _panelFeature ref = panelfixture::simulatedSheet();
 
-        QStringList files;
-        const char* times[] = {"10:00:00", "10:05:00", "10:10:00", "10:15:00"};
-        const char* comments[] = {"Stringa 1", "Stringa 2", "Stringa 3", "~"};
-        for (int s = 0; s < 4; s++) {
-            QVERIFY(sim.setFault(s == 2 ? "shade 0.5 1 0" : "none"));
-            const QString file = measureString(c, ref, 4, 900, 40, times[s], comments[s]);
-            QVERIFY2(!file.isEmpty(), times[s]);
-            files << file;
+        // the third string has one substring of its second module in half shade
+        const QString times[] = {"10:00", "10:05", "10:10", "10:15"};
+        const QString comments[] = {"Stringa 1", "Stringa 2", "Stringa 3", ""};
+        {
+            StringIV screen(nullptr);
+            screen.show();
+            for (int s = 0; s < 4; s++) {
+                QVERIFY(sim.setFault(s == 2 ? "shade 0.5 1 0" : "none"));
+                measureOnTheStringScreen(screen, sim, s == 0, times[s], comments[s]);
+            }
         }
+        const QStringList files =
+            QDir(root.path("/krm510data/datameastring")).entryList(QDir::Files, QDir::Name);
+        QCOMPARE(files.size(), 4);
 
         _installation inst;
         std::memset(&inst, 0, sizeof inst);
@@ -660,7 +660,7 @@ private slots:
         QCOMPARE(marked.size(), 1);
         QVERIFY2(marked[0].contains("Stringa 3"), qPrintable(marked[0]));
         // the fourth string has no comment: its date and time stand for it
-        QVERIFY(t.contains("2026/05/04 10:15:00 (4 x)"));
+        QVERIFY(t.contains(QRegularExpression("\\d{4}/\\d\\d/\\d\\d 10:15 \\(4 x\\)")));
 
         // the same through the report's own reading
         ReportSelection selection;
