@@ -66,21 +66,19 @@ void PdfReport::analysisPage(const ReportInstallation& installation, const Repor
             false);
         y += 4;
         const QString perModule =
-            r.mnpan > 1 ? tr(" (per modulo per %1 moduli)").arg(r.mnpan) : QString();
-        fields({{tr("alfa (corrente)"), num(iec.alpha, 5, "A/°C") + tr(" dalla scheda: Coeff. Isc "
-                                                                       "per Isc")},
-                {tr("beta (tensione)"),
-                 num(iec.beta, 4, "V/°C") + tr(" dalla scheda: Coeff. Voc per Voc") + perModule},
-                {tr("Rs (resistenza serie)"),
-                 num(iec.rs, 3, "Ω") +
-                     (iec.rsFitted ? tr(" adattata ai punti misurati (equazione a un diodo)")
-                                   : tr(" dalla scheda (adattamento non riuscito)"))},
-                {tr("kappa (correzione della curva)"),
-                 num(iec.kappa, 4, "Ω/°C") +
-                     tr(" predefinito, %1 Ω/°C per modulo")
-                         .arg(locale.toString(thresholds::kappaPerModule, 'f', 4))},
-                {tr("a (procedura 2)"), locale.toString(thresholds::procedure2A, 'f', 2)}},
-               margin, width);
+            r.mnpan > 1 ? tr(", per modulo per %1 moduli").arg(r.mnpan) : QString();
+        fields(
+            {{tr("alfa: dalla scheda, Coeff. Isc per Isc"), num(iec.alpha, 5, "A/°C")},
+             {tr("beta: dalla scheda, Coeff. Voc per Voc") + perModule, num(iec.beta, 4, "V/°C")},
+             {iec.rsFitted ? tr("Rs: adattata ai punti misurati (equazione a un diodo)")
+                           : tr("Rs: dalla scheda (adattamento non riuscito)"),
+              num(iec.rs, 3, "Ω")},
+             {tr("kappa: predefinito, %1 Ω/°C per modulo")
+                      .arg(locale.toString(thresholds::kappaPerModule, 'f', 4)) +
+                  perModule,
+              num(iec.kappa, 4, "Ω/°C")},
+             {tr("a (procedura 2)"), locale.toString(thresholds::procedure2A, 'f', 2)}},
+            margin, width);
         line(tr("La Rs dello strumento (V/I al punto di massima potenza) non è una resistenza "
                 "serie e non è usata."));
     }
@@ -141,11 +139,10 @@ void PdfReport::analysisPage(const ReportInstallation& installation, const Repor
     if (band.valid()) {
         subheading(tr("Incertezza dell'esito"));
         fields(
-            {{tr("Banda U"),
-              num(band.band, 2, "%") + tr(" (irraggiamento %1, temperatura %2, traslazione %3)")
-                                           .arg(num(band.irradiancePart, 1, "%"),
-                                                num(band.temperaturePart, 2, "%"),
-                                                num(band.translationPart, 1, "%"))},
+            {{tr("Banda U (irraggiamento %1, temperatura %2, traslazione %3)")
+                  .arg(num(band.irradiancePart, 1, "%"), num(band.temperaturePart, 2, "%"),
+                       num(band.translationPart, 1, "%")),
+              num(band.band, 2, "%")},
              {tr("Scarto di Pmax e limiti"),
               num(band.deviation, 2, "%") + QStringLiteral(" (") + num(band.lowerLimit, 2, "%") +
                   QStringLiteral(" / +") + num(band.upperLimit, 2, "%") + QLatin1Char(')')},
@@ -163,6 +160,7 @@ void PdfReport::analysisPage(const ReportInstallation& installation, const Repor
             iv[0].points << QPointF(m.stcCurve.tensione[k], m.stcCurve.corrente[k]);
         for (const CurvePoint& p : iec.curve1)
             iv[1].points << QPointF(p.v, p.i);
+        iv[1].points << QPointF(iec.procedure1.voc, 0.0); // carried beyond the measured Voc
         for (const CurvePoint& p : iec.curve2)
             iv[2].points << QPointF(p.v, p.i);
         y += 8;
