@@ -8,6 +8,9 @@
 #include "support/simmeasure.h"
 #include "support/testroot.h"
 
+#include <QDir>
+#include <QProcess>
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <cmath>
@@ -87,6 +90,34 @@ private slots:
                  qPrintable(QString::number(band.deviation)));
         QCOMPARE(placed.record.mtest, 1);
         QVERIFY(band.inconclusive);
+        // the report says so beside the instrument's verdict
+        const QString pdf = root.root() + "/band.pdf";
+        QProcess run;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("QT_QPA_PLATFORM", "offscreen");
+        run.setProcessEnvironment(env);
+        run.start(KRM_REPORT_PATH,
+                  {root.path("/krm510data"), "--measures", placed.file, "-o", pdf, "--lang", "en"});
+        QVERIFY(run.waitForFinished(60000));
+        QCOMPARE(run.exitCode(), 0);
+        QProcess text;
+        text.start("pdftotext", {"-layout", pdf, "-"});
+        QVERIFY(text.waitForFinished(30000));
+        const QString t = QString::fromUtf8(text.readAllStandardOutput());
+        QVERIFY(t.contains("Second reading of the curve"));
+        QVERIFY(t.contains(QRegularExpression("Verdict of the instrument\\s+Passed")));
+        QVERIFY(t.contains(QRegularExpression("Verdict with the band\\s+inconclusive")));
+        QVERIFY(t.contains("No finding: the curve has the expected shape."));
+        QVERIFY(
+            t.contains(QRegularExpression("Pmax\\s+[0-9.]+ W\\s+[0-9.]+ W \\([-+][0-9.]+ %\\)")));
+        QVERIFY(t.contains("Appendix: how the report reads the curve"));
+        const QString shots = QString(KRM_BINARY_DIR) + "/screenshots";
+        QDir().mkpath(shots);
+        QProcess render;
+        render.start("pdftoppm",
+                     {"-r", "100", "-png", "-f", "3", "-l", "4", pdf, shots + "/report-analysis"});
+        QVERIFY(render.waitForFinished(60000));
+
         qInfo("U %.3f %%: irradiance %.1f, temperature %.3f, translation %.1f; deviation %.2f %%",
               band.band, band.irradiancePart, band.temperaturePart, band.translationPart,
               band.deviation);
