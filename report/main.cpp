@@ -197,7 +197,8 @@ int main(int argc, char* argv[])
             result = 3;
         }
     }
-    if (parser.isSet("csv") && !CsvReport::write(selection, parser.value("csv"), &error)) {
+    if (parser.isSet("csv") && !CsvReport::write(selection, parser.value("csv"), &error,
+                                                 std::max(1, parser.value("substrings").toInt()))) {
         say(QCoreApplication::translate("ReportMain", "Impossibile scrivere %1").arg(error));
         result = 3;
     }

@@ -1,3 +1,4 @@
+#include "analysiscsv.h"
 #include "csvreport.h"
 #include "reportselection.h"
 #include "stringcomparison.h"
@@ -178,14 +179,18 @@ private slots:
         QFile curve(csv + "/string-20100616-091500.csv");
         QVERIFY(curve.open(QIODevice::ReadOnly));
         QCOMPARE(curve.readAll(), golden("report_curve_string.csv"));
-        QCOMPARE(QDir(csv).entryList(QDir::Files).size(), 4);
+        QFile analysis(csv + "/analysis.csv");
+        QVERIFY(analysis.open(QIODevice::ReadOnly));
+        QCOMPARE(analysis.readAll(), golden("report_analysis.csv"));
+        QCOMPARE(QDir(csv).entryList(QDir::Files).size(), 5);
     }
     void csvColumnsAreTheDocumentedSet()
     {
         QFile readme(QString(KRM_TEST_DATA_DIR) + "/../../report/README.md");
         QVERIFY(readme.open(QIODevice::ReadOnly));
         const QString text = QString::fromUtf8(readme.readAll());
-        for (const QString& column : CsvReport::summaryColumns() + CsvReport::curveColumns())
+        for (const QString& column :
+             CsvReport::summaryColumns() + CsvReport::curveColumns() + AnalysisCsv::columns())
             QVERIFY2(text.contains("`" + column + "`"), qPrintable(column));
     }
     void csvNumbersSpeakCWhateverTheLocale()
@@ -411,7 +416,7 @@ private slots:
                      .code,
                  0);
         QCOMPARE(QDir(csv).entryList(QDir::Files),
-                 (QStringList{"module-20100615-103000.csv", "summary.csv"}));
+                 (QStringList{"analysis.csv", "module-20100615-103000.csv", "summary.csv"}));
         QCOMPARE(report({root.path("/krm510data"), "--installation", "Capannone Nord", "--from",
                          "2010-13-01", "--csv", csv})
                      .code,
