@@ -330,6 +330,16 @@ private slots:
         QVERIFY(!t.contains("Performance factor"));
         QVERIFY(t.contains(QRegularExpression("Measures in the report\\s+1\\b")));
     }
+    void withoutReferenceTheSecondOpinionLooksOnlyForSteps()
+    {
+        TestRoot root;
+        const QString t = goldenPdfText(root, {"--measures", "20100615-104500"});
+        QVERIFY(t.contains("Second reading of the curve"));
+        QVERIFY(t.contains(QRegularExpression("Without a reference module the curve is not\\s+"
+                                              "translated by IEC 60891")));
+        QVERIFY(!t.contains(QRegularExpression("Instrument\\s+Procedure 1\\s+Procedure 2")));
+        QVERIFY(!t.contains("Verdict with the band"));
+    }
     void latin1AndUtf8CommentsBothShowCorrectly()
     {
         TestRoot root;
