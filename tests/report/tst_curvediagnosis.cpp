@@ -1,5 +1,7 @@
 #include "curvediagnosis.h"
+#include "curverecord.h"
 #include "reportmeasure.h"
+#include "sheetmodel.h"
 
 #include "data/datasetting.h"
 #include "device/gpiopd.h"
@@ -149,6 +151,24 @@ private slots:
         QVERIFY(!d.reference);
         QCOMPARE(d.findings.size(), size_t(1));
         QCOMPARE(d.findings[0].kind, Finding::Step);
+    }
+
+    // A knee stretched by a resistance that acts only between 45 % of Isc and
+    // Isc (no fault of the simulator does that alone): ends, slopes and Voc as
+    // the data sheet's, the fill factor low, nothing else to explain it.
+    void lowFillFactorWhenNothingElseExplainsIt()
+    {
+        const _panelFeature sheet = panelfixture::simulatedSheet();
+        const SheetModel model(sheet, 1, 800, 40);
+        const double isc = model.isc(), voc = model.voc();
+        const _measure m = curveRecord(1, 800, 40, isc, voc, [&](double i) {
+            return std::max(0.0, model.voltageAt(i) - 2.0 * std::max(0.0, i - 0.45 * isc));
+        });
+        const CurveDiagnosis d(m);
+        QCOMPARE(d.findings.size(), size_t(1));
+        QCOMPARE(d.findings[0].kind, Finding::LowFillFactor);
+        QVERIFY2(d.findings[0].measured < d.findings[0].expected - 5,
+                 qPrintable(QString::number(d.findings[0].measured)));
     }
 
     void vocDeficitIsNotJudgedWhenTheTemperatureCameFromVoc()

@@ -1,3 +1,4 @@
+#include "curverecord.h"
 #include "iec60891.h"
 #include "reportmeasure.h"
 
@@ -20,35 +21,12 @@ class TestIec60891 : public QObject
 {
     Q_OBJECT
 
-    // A record of a single-diode curve with known a and Rs (no shunt), on the
-    // board's slots: 128 points, slot 0 at Voc, the rest repeating the last.
+    // A record of a single-diode curve with known a and Rs (no shunt).
     static _measure diodeRecord(int modules, double g, double t, double a, double rs)
     {
-        _measure m;
-        std::memset(&m, 0, sizeof m);
-        m.mnpan = modules;
-        m.mirr = float(g);
-        m.mtemp = float(t);
-        m.mcomp = 1;
-        m.mprobe = PROBE_MODULE;
-        m.ref = panelfixture::simulatedSheet();
         const double isc = 8.7 * g / 1000.0, voc = 37.0 * modules;
-        m.misc = float(isc);
-        m.mvoc = float(voc);
-        for (int k = 0; k < 512; k++) {
-            const int slot = std::min(k, 254) / 2;
-            const double v = voc * (1.0 - slot / 127.0);
-            // invert V = Voc + a ln(1 - I/Isc) - Rs I by bisection
-            double lo = 0, hi = isc;
-            for (int j = 0; j < 80; j++) {
-                const double mid = 0.5 * (lo + hi);
-                (voc + a * std::log(1.0 - mid / isc) - rs * mid > v ? lo : hi) = mid;
-            }
-            m.ramp.tensione[k] = float(v);
-            m.ramp.corrente[k] = float(0.5 * (lo + hi));
-        }
-        m.mpmax = 1; // unused here
-        return m;
+        return curveRecord(modules, g, t, isc, voc,
+                           [=](double i) { return voc + a * std::log(1.0 - i / isc) - rs * i; });
     }
 
 private slots:
