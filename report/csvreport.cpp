@@ -1,25 +1,13 @@
 #include "csvreport.h"
 
+#include "analysiscsv.h"
+
 #include <QDir>
 #include <QSaveFile>
 #include <cmath>
 
 namespace
 {
-
-QString number(double value, int decimals)
-{
-    if (!std::isfinite(value))
-        return QString();
-    return QString::number(value, 'f', decimals);
-}
-
-QString quoted(const QString& text)
-{
-    QString q = text;
-    q.replace(QLatin1Char('"'), QLatin1String("\"\""));
-    return QLatin1Char('"') + q + QLatin1Char('"');
-}
 
 const char* probeWord(int mprobe)
 {
@@ -49,6 +37,20 @@ bool writeFile(const QString& path, const QString& content)
 }
 
 } // namespace
+
+QString CsvReport::number(double value, int decimals)
+{
+    if (!std::isfinite(value))
+        return QString();
+    return QString::number(value, 'f', decimals);
+}
+
+QString CsvReport::quoted(const QString& text)
+{
+    QString q = text;
+    q.replace(QLatin1Char('"'), QLatin1String("\"\""));
+    return QLatin1Char('"') + q + QLatin1Char('"');
+}
 
 QStringList CsvReport::summaryColumns()
 {
@@ -147,7 +149,8 @@ QString CsvReport::curveTable(const ReportMeasure& m)
     return out;
 }
 
-bool CsvReport::write(const ReportSelection& selection, const QString& dir, QString* error)
+bool CsvReport::write(const ReportSelection& selection, const QString& dir, QString* error,
+                      int substrings)
 {
     if (!QDir().mkpath(dir)) {
         *error = dir;
@@ -167,6 +170,11 @@ bool CsvReport::write(const ReportSelection& selection, const QString& dir, QStr
     const QString path = dir + QStringLiteral("/summary.csv");
     if (!writeFile(path, summary)) {
         *error = path;
+        return false;
+    }
+    const QString analysis = dir + QStringLiteral("/analysis.csv");
+    if (!writeFile(analysis, AnalysisCsv::table(selection, substrings))) {
+        *error = analysis;
         return false;
     }
     return true;

@@ -17,10 +17,18 @@ public:
     static QStringList curveColumns();
 
     // false, with the file in error, when a file can't be written whole.
-    static bool write(const ReportSelection& selection, const QString& dir, QString* error);
+    // analysis.csv too: the second opinion (AnalysisCsv), with the substrings
+    // per module given.
+    static bool write(const ReportSelection& selection, const QString& dir, QString* error,
+                      int substrings = 3);
 
     static QString summaryRow(const ReportInstallation& installation, const ReportMeasure& m);
     static QString curveTable(const ReportMeasure& m);
+
+    // A figure with a decimal point whatever the locale, empty when not
+    // finite; a text in double quotes.
+    static QString number(double value, int decimals);
+    static QString quoted(const QString& text);
 };
 
 #endif

@@ -4,13 +4,13 @@
 <context>
     <name>PdfReport</name>
     <message>
-        <location filename="pdfreport.cpp" line="+109"/>
+        <location filename="pdfreport.cpp" line="+95"/>
         <source>Rapporto di prova KRM 510</source>
         <translation>Rapport d&apos;essai KRM 510</translation>
     </message>
     <message>
         <location line="+3"/>
-        <location line="+31"/>
+        <location line="+34"/>
         <source>Impossibile scrivere %1</source>
         <translation>Impossible d&apos;écrire %1</translation>
     </message>
@@ -25,13 +25,15 @@
         <translation>Rapport d&apos;essai des courbes I-V</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location filename="pdfanalysis.cpp" line="+54"/>
+        <location line="+102"/>
+        <location filename="pdfreport.cpp" line="+3"/>
         <location line="+11"/>
         <source>Strumento</source>
         <translation>Instrument</translation>
     </message>
     <message>
-        <location line="-6"/>
+        <location filename="pdfreport.cpp" line="-6"/>
         <source>non registrato</source>
         <translation>non enregistré</translation>
     </message>
@@ -321,18 +323,234 @@
         <translation>Courbe I-V</translation>
     </message>
     <message>
+        <location filename="pdfanalysis.cpp" line="-127"/>
+        <source>Seconda lettura della curva</source>
+        <translation>Seconde lecture de la courbe</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Traslazione secondo IEC 60891 (edizione 2, 2009), procedure 1 e 2</source>
+        <translation>Translation selon IEC 60891 (édition 2, 2009), procédures 1 et 2</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Senza modulo di riferimento la curva non è traslata secondo IEC 60891 e non è confrontata con la scheda del modulo; si cercano solo i gradini.</source>
+        <translation>Sans module de référence, la courbe n&apos;est pas translatée selon IEC 60891 ni comparée à la fiche du module ; seules les marches sont recherchées.</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <location line="+103"/>
+        <source>Procedura 1</source>
+        <translation>Procédure 1</translation>
+    </message>
+    <message>
+        <location line="-103"/>
+        <location line="+104"/>
+        <source>Procedura 2</source>
+        <translation>Procédure 2</translation>
+    </message>
+    <message>
+        <location line="-89"/>
+        <source>, per modulo per %1 moduli</source>
+        <translation>, par module fois %1 modules</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>alfa: dalla scheda, Coeff. Isc per Isc</source>
+        <translation>alpha : de la fiche, coeff. Isc fois Isc</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>beta: dalla scheda, Coeff. Voc per Voc</source>
+        <translation>bêta : de la fiche, coeff. Voc fois Voc</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Rs: adattata ai punti misurati (equazione a un diodo)</source>
+        <translation>Rs : ajustée aux points mesurés (équation à une diode)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Rs: dalla scheda (adattamento non riuscito)</source>
+        <translation>Rs : de la fiche (ajustement impossible)</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>kappa: predefinito, %1 Ω/°C per modulo</source>
+        <translation>kappa : par défaut, %1 Ω/°C par module</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>a (procedura 2)</source>
+        <translation>a (procédure 2)</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>La Rs dello strumento (V/I al punto di massima potenza) non è una resistenza serie e non è usata.</source>
+        <translation>La Rs de l&apos;instrument (V/I au point de puissance maximale) n&apos;est pas une résistance série et n&apos;est pas utilisée.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <location line="+107"/>
+        <source>Forma della curva</source>
+        <translation>Forme de la courbe</translation>
+    </message>
+    <message>
+        <location line="-101"/>
+        <source>Gradino a %1 di Isc a %2: diodi di bypass in conduzione (ombreggiamento parziale, moduli disaccoppiati, una cella danneggiata).</source>
+        <translation>Marche à %1 de Isc à %2 : diodes de bypass passantes (ombrage partiel, disparité, une cellule endommagée).</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Voc inferiore di %1 a quella attesa dalla scheda (%2): circa %3 sottostringhe, un diodo di bypass in corto.</source>
+        <translation>Voc inférieure de %1 à celle de la fiche (%2) : environ %3 sous-chaînes, une diode de bypass en court-circuit.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Corrente bassa con forma normale: Isc al %1 di quella attesa (%2). Sporcizia, degrado, irraggiamento errato o una sottostringa ombreggiata dietro un diodo di bypass aperto: la curva da sola non li distingue.</source>
+        <translation>Courant faible de forme normale : Isc à %1 de l&apos;attendu (%2). Salissure, dégradation, éclairement erroné ou sous-chaîne ombragée derrière une diode de bypass ouverte : la courbe seule ne les distingue pas.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Pendenza ripida vicino a Isc: %1 contro %2 della curva della scheda (normalizzata): resistenza di shunt bassa, circa %3 per modulo.</source>
+        <translation>Pente forte près de Isc : %1 contre %2 pour la courbe de la fiche (normalisée) : résistance shunt faible, environ %3 par module.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Pendenza debole vicino a Voc: %1 contro %2 della curva della scheda (normalizzata): resistenza serie alta (cavi, connettori), circa %3 in più per modulo.</source>
+        <translation>Pente faible près de Voc : %1 contre %2 pour la courbe de la fiche (normalisée) : résistance série élevée (câbles, connecteurs), environ %3 de plus par module.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Fattore di riempimento basso: %1 contro %2 della curva della scheda, senza altra spiegazione.</source>
+        <translation>Facteur de remplissage faible : %1 contre %2 pour la courbe de la fiche, sans autre explication.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Nessun rilievo: la curva ha la forma attesa.</source>
+        <translation>Aucune constatation : la courbe a la forme attendue.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Senza modulo di riferimento sono cercati solo i gradini.</source>
+        <translation>Sans module de référence, seules les marches sont recherchées.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Temperatura ricavata da Voc: la Voc non è valutata.</source>
+        <translation>Température déduite de Voc : la Voc n&apos;est pas évaluée.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <location line="+78"/>
+        <source>Incertezza dell&apos;esito</source>
+        <translation>Incertitude du résultat</translation>
+    </message>
+    <message>
+        <location line="-76"/>
+        <source>Banda U (irraggiamento %1, temperatura %2, traslazione %3)</source>
+        <translation>Bande U (éclairement %1, température %2, translation %3)</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Scarto di Pmax e limiti</source>
+        <translation>Écart de Pmax et limites</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Esito dello strumento</source>
+        <translation>Résultat de l&apos;instrument</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Esito con la banda</source>
+        <translation>Résultat avec la bande</translation>
+    </message>
+    <message>
         <location line="+0"/>
+        <source>inconclusivo</source>
+        <translation>non concluant</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <location filename="pdfreport.cpp" line="+0"/>
         <location line="+3"/>
         <source>Tensione (V)</source>
         <translation>Tension (V)</translation>
     </message>
     <message>
-        <location line="-2"/>
+        <location line="+0"/>
+        <source>Curva I-V a STC</source>
+        <translation>Courbe I-V aux STC</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location filename="pdfreport.cpp" line="-2"/>
         <source>Corrente (A)</source>
         <translation>Courant (A)</translation>
     </message>
     <message>
+        <location line="+8"/>
+        <source>Appendice: come legge la curva il rapporto</source>
+        <translation>Annexe : comment le rapport lit la courbe</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Traslazione IEC 60891</source>
+        <translation>Translation IEC 60891</translation>
+    </message>
+    <message>
         <location line="+1"/>
+        <source>Procedura 1: I2 = I1 + Isc1 (G2/G1 - 1) + alfa (T2 - T1); V2 = V1 - Rs (I2 - I1) - kappa I2 (T2 - T1) + beta (T2 - T1). Procedura 2 (edizione 2009): I2 = I1 (1 + alfa_rel (T2 - T1)) G2/G1; V2 = V1 + Voc1 (beta_rel (T2 - T1) + a ln(G2/G1)) - Rs (I2 - I1) - kappa I2 (T2 - T1), con a = %1. Verso 1000 W/m² e 25 °C.</source>
+        <translation>Procédure 1 : I2 = I1 + Isc1 (G2/G1 - 1) + alpha (T2 - T1) ; V2 = V1 - Rs (I2 - I1) - kappa I2 (T2 - T1) + bêta (T2 - T1). Procédure 2 (édition 2009) : I2 = I1 (1 + alpha_rel (T2 - T1)) G2/G1 ; V2 = V1 + Voc1 (bêta_rel (T2 - T1) + a ln(G2/G1)) - Rs (I2 - I1) - kappa I2 (T2 - T1), avec a = %1. Vers 1000 W/m² et 25 °C.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>alfa e beta vengono dai coefficienti della scheda; kappa è %1 Ω/°C per modulo. Rs è adattata ai punti misurati tra %2 e %3 di Isc con l&apos;equazione a un diodo V = Voc + a ln(1 - I/Isc) - Rs I (minimi quadrati). Per una stringa Rs, kappa e beta sono quelli di un modulo per il numero di moduli. La Voc della procedura 1 prolunga la curva oltre la Voc misurata con la stessa equazione.</source>
+        <translation>alpha et bêta viennent des coefficients de la fiche ; kappa vaut %1 Ω/°C par module. Rs est ajustée aux points mesurés entre %2 et %3 de Isc avec l&apos;équation à une diode V = Voc + a ln(1 - I/Isc) - Rs I (moindres carrés). Pour une chaîne, Rs, kappa et bêta sont ceux d&apos;un module fois le nombre de modules. La Voc de la procédure 1 prolonge la courbe au-delà de la Voc mesurée avec la même équation.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Si usano i punti misurati dalla scheda (posizioni 0, 2, ..., 254 del file). Le pendenze sono normalizzate: A/V per Voc/Isc. La curva della scheda è l&apos;equazione a un diodo ricavata da Isc, Voc, Impp e Vmpp del modulo, alla temperatura misurata e all&apos;irraggiamento che dà la Isc misurata.</source>
+        <translation>On utilise les points mesurés par la carte (positions 0, 2, ..., 254 du fichier). Les pentes sont normalisées : A/V fois Voc/Isc. La courbe de la fiche est l&apos;équation à une diode tirée de Isc, Voc, Impp et Vmpp du module, à la température mesurée et à l&apos;éclairement qui donne la Isc mesurée.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Gradino: un tratto piatto (pendenza sotto %1, lungo almeno %2 di Voc) almeno %3 di Isc sotto il precedente.</source>
+        <translation>Marche : un palier (pente sous %1, long d&apos;au moins %2 de Voc) au moins %3 de Isc sous le précédent.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Diodo di bypass in corto: Voc sotto l&apos;attesa di almeno %1 sottostringhe e a meno di %2 da un numero intero; una sottostringa è 1/%3 della Voc del modulo (--substrings N); solo con temperatura misurata o inserita.</source>
+        <translation>Diode de bypass en court-circuit : Voc sous l&apos;attendue d&apos;au moins %1 sous-chaînes et à moins de %2 d&apos;un nombre entier ; une sous-chaîne vaut 1/%3 de la Voc du module (--substrings N) ; seulement avec une température mesurée ou saisie.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Corrente bassa: Isc sotto %1 di quella attesa, senza gradini.</source>
+        <translation>Courant faible : Isc sous %1 de l&apos;attendu, sans marches.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Shunt basso: pendenza fino a %1 di Voc più ripida di %2 di quella della scheda.</source>
+        <translation>Shunt faible : pente jusqu&apos;à %1 de Voc plus forte de %2 que celle de la fiche.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Resistenza serie alta: resistenza sotto %1 di Isc più alta di %2 (normalizzata) di quella della scheda; non valutata quando ci sono gradini.</source>
+        <translation>Résistance série élevée : résistance sous %1 de Isc plus haute de %2 (normalisée) que celle de la fiche ; non évaluée en présence de marches.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Fattore di riempimento basso: %1 punti sotto quello della scheda, solo se nessun altro rilievo lo spiega.</source>
+        <translation>Facteur de remplissage faible : %1 points sous celui de la fiche, seulement si aucune autre constatation ne l&apos;explique.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>U è la radice della somma dei quadrati di: irraggiamento %1 (classe del sensore), temperatura %2 °C per il coefficiente di potenza del modulo, traslazione %3. Uno scarto entro U da uno dei limiti di tolleranza (dopo la quota di invecchiamento) è inconclusivo.</source>
+        <translation>U est la racine de la somme des carrés de : éclairement %1 (classe du capteur), température %2 °C fois le coefficient de puissance du module, translation %3. Un écart à moins de U d&apos;une des limites de tolérance (après la part de vieillissement) n&apos;est pas concluant.</translation>
+    </message>
+    <message>
+        <location filename="pdfreport.cpp" line="+1"/>
         <source>Curva P-V</source>
         <translation>Courbe P-V</translation>
     </message>
@@ -417,7 +635,7 @@
 <context>
     <name>ReportMain</name>
     <message>
-        <location filename="main.cpp" line="+47"/>
+        <location filename="main.cpp" line="+48"/>
         <source>data non valida per --%1: %2 (aaaa-MM-gg)</source>
         <translation>date invalide pour --%1 : %2 (aaaa-MM-jj)</translation>
     </message>
@@ -473,6 +691,11 @@
     </message>
     <message>
         <location line="+2"/>
+        <source>Sottostringhe (diodi di bypass) per modulo, 3 se non detto.</source>
+        <translation>Sous-chaînes (diodes de bypass) par module, 3 par défaut.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
         <source>Il file PDF da scrivere.</source>
         <translation>Le fichier PDF à écrire.</translation>
     </message>
@@ -507,7 +730,7 @@
         <translation>écarté %1 : %2</translation>
     </message>
     <message>
-        <location line="+16"/>
+        <location line="+17"/>
         <source>Impossibile scrivere %1</source>
         <translation>Impossible d&apos;écrire %1</translation>
     </message>

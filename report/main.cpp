@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTranslator>
+#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
 
@@ -106,6 +107,10 @@ int main(int argc, char* argv[])
          QCoreApplication::translate("ReportMain", "Lingua del rapporto: it, en, fr, de, es."),
          "LANG", "it"},
         {"inspector", QCoreApplication::translate("ReportMain", "Il nome dell'ispettore."), "NAME"},
+        {"substrings",
+         QCoreApplication::translate("ReportMain",
+                                     "Sottostringhe (diodi di bypass) per modulo, 3 se non detto."),
+         "N", "3"},
         {{"o", "output"},
          QCoreApplication::translate("ReportMain", "Il file PDF da scrivere."),
          "FILE"},
@@ -186,12 +191,14 @@ int main(int argc, char* argv[])
     if (parser.isSet("output")) {
         PdfReport pdf(selection, QLocale(lang));
         pdf.inspector = parser.value("inspector");
+        pdf.substrings = std::max(1, parser.value("substrings").toInt());
         if (!pdf.write(parser.value("output"), &error)) {
             say(error);
             result = 3;
         }
     }
-    if (parser.isSet("csv") && !CsvReport::write(selection, parser.value("csv"), &error)) {
+    if (parser.isSet("csv") && !CsvReport::write(selection, parser.value("csv"), &error,
+                                                 std::max(1, parser.value("substrings").toInt()))) {
         say(QCoreApplication::translate("ReportMain", "Impossibile scrivere %1").arg(error));
         result = 3;
     }

@@ -1,5 +1,7 @@
 #include "pdfreport.h"
 
+#include "pdfstyle.h"
+
 #include <QBuffer>
 #include <QFile>
 #include <QPageLayout>
@@ -11,27 +13,10 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace pdfstyle;
+
 namespace
 {
-
-// The page is laid out in points (1/72 inch) on A4.
-constexpr int pointsPerInch = 72;
-constexpr double margin = 42;
-constexpr double bodySize = 9.5;
-constexpr double lineHeight = 13;
-
-const QColor measuredColor(200, 30, 30);
-const QColor stcColor(20, 130, 40);
-const QColor markColor(200, 30, 30);
-const QColor gridColor(210, 210, 210);
-
-QFont font(double size, bool bold = false)
-{
-    QFont f(QStringLiteral("Helvetica"));
-    f.setPointSizeF(size);
-    f.setBold(bold);
-    return f;
-}
 
 // A step of 1, 2 or 5 times a power of ten that cuts [0, span] in about n.
 double niceStep(double span, int n)
@@ -85,8 +70,9 @@ bool PdfReport::hasComparison(const ReportInstallation& installation) const
 int PdfReport::pageCount() const
 {
     int count = 1;
+    count++; // the appendix
     for (const ReportInstallation& i : selection.installations) {
-        count += int(i.measures.size());
+        count += 2 * int(i.measures.size()); // the measure and its analysis
         if (!hasComparison(i))
             continue;
         const StringComparison c(i.measures);
@@ -120,8 +106,10 @@ bool PdfReport::write(const QString& path, QString* error)
 
     firstPage();
     for (const ReportInstallation& installation : selection.installations) {
-        for (const ReportMeasure& m : installation.measures)
+        for (const ReportMeasure& m : installation.measures) {
             measurePage(installation, m);
+            analysisPage(installation, m);
+        }
         if (!hasComparison(installation))
             continue;
         const StringComparison comparison(installation.measures);
@@ -130,6 +118,7 @@ bool PdfReport::write(const QString& path, QString* error)
         if (!comparison.apart.isEmpty())
             apartPage(installation, comparison);
     }
+    appendixPage();
     footer();
     bool ok = p.end();
     painter = nullptr;

@@ -28,6 +28,8 @@ public:
     PdfReport(const ReportSelection& selection, const QLocale& locale);
 
     QString inspector;
+    // Substrings (bypass diodes) per module, for the Voc deficit.
+    int substrings = 3;
     QDate reportDate = QDate::currentDate();
 
     // false, with the reason in error, when the file can't be written.
@@ -48,6 +50,11 @@ private:
     void comparisonPage(const ReportInstallation& installation, const StringComparison& comparison,
                         int group);
     void apartPage(const ReportInstallation& installation, const StringComparison& comparison);
+
+    // The second opinion on a measure (pdfanalysis.cpp): IEC 60891, the
+    // curve's shape, the band on the verdict; and the appendix of thresholds.
+    void analysisPage(const ReportInstallation& installation, const ReportMeasure& m);
+    void appendixPage();
 
     void newPage();
     void footer();

@@ -1,3 +1,4 @@
+#include "analysiscsv.h"
 #include "csvreport.h"
 #include "reportselection.h"
 #include "stringcomparison.h"
@@ -178,14 +179,18 @@ private slots:
         QFile curve(csv + "/string-20100616-091500.csv");
         QVERIFY(curve.open(QIODevice::ReadOnly));
         QCOMPARE(curve.readAll(), golden("report_curve_string.csv"));
-        QCOMPARE(QDir(csv).entryList(QDir::Files).size(), 4);
+        QFile analysis(csv + "/analysis.csv");
+        QVERIFY(analysis.open(QIODevice::ReadOnly));
+        QCOMPARE(analysis.readAll(), golden("report_analysis.csv"));
+        QCOMPARE(QDir(csv).entryList(QDir::Files).size(), 5);
     }
     void csvColumnsAreTheDocumentedSet()
     {
         QFile readme(QString(KRM_TEST_DATA_DIR) + "/../../report/README.md");
         QVERIFY(readme.open(QIODevice::ReadOnly));
         const QString text = QString::fromUtf8(readme.readAll());
-        for (const QString& column : CsvReport::summaryColumns() + CsvReport::curveColumns())
+        for (const QString& column :
+             CsvReport::summaryColumns() + CsvReport::curveColumns() + AnalysisCsv::columns())
             QVERIFY2(text.contains("`" + column + "`"), qPrintable(column));
     }
     void csvNumbersSpeakCWhateverTheLocale()
@@ -325,6 +330,16 @@ private slots:
         QVERIFY(!t.contains("Performance factor"));
         QVERIFY(t.contains(QRegularExpression("Measures in the report\\s+1\\b")));
     }
+    void withoutReferenceTheSecondOpinionLooksOnlyForSteps()
+    {
+        TestRoot root;
+        const QString t = goldenPdfText(root, {"--measures", "20100615-104500"});
+        QVERIFY(t.contains("Second reading of the curve"));
+        QVERIFY(t.contains(QRegularExpression("Without a reference module the curve is not\\s+"
+                                              "translated by IEC 60891")));
+        QVERIFY(!t.contains(QRegularExpression("Instrument\\s+Procedure 1\\s+Procedure 2")));
+        QVERIFY(!t.contains("Verdict with the band"));
+    }
     void latin1AndUtf8CommentsBothShowCorrectly()
     {
         TestRoot root;
@@ -338,11 +353,12 @@ private slots:
         TestRoot root;
         const QString t = goldenPdfText(root);
         QVERIFY(!t.isEmpty());
-        // the first page, three measures, the string alone with its model
+        // the first page, three measures and their analyses, the string alone
+        // with its model, the appendix
         const QStringList pages = t.split('\f', Qt::SkipEmptyParts);
-        QCOMPARE(pages.size(), 5);
-        for (int n = 1; n <= 5; n++)
-            QVERIFY2(pages[n - 1].contains(QRegularExpression(QString("\\b%1 ?/ ?5\\b").arg(n))),
+        QCOMPARE(pages.size(), 9);
+        for (int n = 1; n <= 9; n++)
+            QVERIFY2(pages[n - 1].contains(QRegularExpression(QString("\\b%1 ?/ ?9\\b").arg(n))),
                      qPrintable(QString::number(n)));
     }
     void reportSpeaksEachOfTheFiveLanguages_data()
@@ -410,7 +426,7 @@ private slots:
                      .code,
                  0);
         QCOMPARE(QDir(csv).entryList(QDir::Files),
-                 (QStringList{"module-20100615-103000.csv", "summary.csv"}));
+                 (QStringList{"analysis.csv", "module-20100615-103000.csv", "summary.csv"}));
         QCOMPARE(report({root.path("/krm510data"), "--installation", "Capannone Nord", "--from",
                          "2010-13-01", "--csv", csv})
                      .code,
@@ -679,7 +695,7 @@ private slots:
                          qPrintable(QString::number(r.deviation[2])));
         }
         const QStringList pages = renderPages(pdf, "report-tetto-sud");
-        QCOMPARE(pages.size(), 6);
+        QCOMPARE(pages.size(), 11); // each measure with its analysis, and the appendix
     }
 };
 
