@@ -70,6 +70,9 @@ class TestReport : public QObject
     {
         const QString dir = QString(KRM_BINARY_DIR) + "/screenshots";
         QDir().mkpath(dir);
+        // the pages of an earlier run, which may have had more or fewer
+        for (const QString& f : QDir(dir).entryList({name + "-*.png"}, QDir::Files))
+            QFile::remove(dir + "/" + f);
         QProcess p;
         p.start("pdftoppm", {"-r", "100", "-png", pdf, dir + "/" + name});
         p.waitForFinished(60000);
