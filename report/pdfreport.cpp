@@ -189,14 +189,19 @@ void PdfReport::field(const QString& label, const QString& value, double x, doub
     const double labelWidth = width > 400 ? 330 : width * 0.5;
     painter->setPen(Qt::black);
     painter->setFont(font(bodySize));
-    painter->drawText(QRectF(x, y, labelWidth - 4, lineHeight), Qt::AlignLeft | Qt::AlignVCenter,
-                      label);
+    // a label longer than its column goes on over more lines, never under the value
+    const QRectF labelBox(x, y, labelWidth - 4, lineHeight);
+    const int wrap = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
+    const double height = std::max(
+        lineHeight,
+        std::ceil(QFontMetricsF(painter->font()).boundingRect(labelBox, wrap, label).height()));
+    painter->drawText(QRectF(x, y, labelWidth - 4, height), wrap, label);
     painter->setFont(font(bodySize, true));
     const QFontMetricsF metrics(painter->font());
     const QRectF box(x + labelWidth, y, width - labelWidth, lineHeight);
     painter->drawText(box, Qt::AlignLeft | Qt::AlignVCenter,
                       metrics.elidedText(value, Qt::ElideRight, box.width()));
-    y += lineHeight;
+    y += height;
 }
 
 void PdfReport::fields(const QList<QPair<QString, QString>>& rows, double x, double width)
