@@ -7,16 +7,18 @@
 //                              label painted
 //   bench_screen startup       the instrument's start-up (startInstrument),
 //                              from main to the main menu painted, on a
-//                              machine folder of its own with the clock at
-//                              scale 0 (the mandated waits cost nothing) and
-//                              no simulated instrument answering
+//                              machine folder of its own with no simulated
+//                              instrument answering; the clock runs as on
+//                              the instrument (a wait executes nothing, so
+//                              the mandated four seconds count no
+//                              instruction; at scale 0 the status bar's
+//                              timers would run without pause)
 //   bench_screen repaint <n>   the module screen's plot with a measured and
 //                              a translated curve of 512 points, drawn again
 //                              n times as after a measure (marks 1 and 2
 //                              around the n repaints)
 //
 // Run with QT_HASH_SEED=0 and QT_QPA_PLATFORM=offscreen so that counts repeat.
-#include "platform/clock.h"
 #include "platform/systemroot.h"
 #include "shell/desktopseed.h"
 #include "shell/startup.h"
@@ -91,7 +93,6 @@ int startup(int argc, char** argv)
 {
     QTemporaryDir machine(QDir::tempPath() + "/krm510-bench-XXXXXX");
     SystemRoot::set(machine.path().toStdString());
-    Clock::setScale(0);
     // the settings and catalogues the start-up reads
     if (seedDesktopRoot(QStringLiteral(KRM_CATALOGUE_DIR)) < 0)
         return 1;
