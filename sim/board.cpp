@@ -11,9 +11,11 @@
 #include <cstdio>
 #include <cstring>
 
-namespace sim {
+namespace sim
+{
 
-namespace {
+namespace
+{
 const double boardRate = 960.0;   // 9600 baud, 8N1
 const double loaderRate = 3840.0; // 38400 baud
 const double hsinkTau = 600.0;    // s, cooling towards the ambient
@@ -26,6 +28,20 @@ long clampCount(double value)
     return std::lround(std::max(0.0, std::min(4095.0, value)));
 }
 } // namespace
+
+void Board::setNoise(double counts, unsigned seed)
+{
+    noiseCounts = std::max(0.0, counts);
+    noiseSource.seed(seed);
+}
+
+long Board::noisy(long count)
+{
+    if (noiseCounts <= 0.0)
+        return count;
+    std::normal_distribution<double> spread(0.0, noiseCounts);
+    return clampCount(static_cast<double>(count) + spread(noiseSource));
+}
 
 void Board::resetFlash()
 {
@@ -197,9 +213,10 @@ void Board::loaderInput(const std::string& bytes)
             // Each instruction comes low byte first, as the HEX file has it.
             for (int i = 0; i < rowSize(); i++) {
                 size_t o = 4 + 3 * static_cast<size_t>(i);
-                uint32_t word = static_cast<uint8_t>(loaderBuffer[o]) |
-                                (static_cast<uint8_t>(loaderBuffer[o + 1]) << 8) |
-                                (static_cast<uint32_t>(static_cast<uint8_t>(loaderBuffer[o + 2])) << 16);
+                uint32_t word =
+                    static_cast<uint8_t>(loaderBuffer[o]) |
+                    (static_cast<uint8_t>(loaderBuffer[o + 1]) << 8) |
+                    (static_cast<uint32_t>(static_cast<uint8_t>(loaderBuffer[o + 2])) << 16);
                 flash[address + 2 * static_cast<uint32_t>(i)] = word;
             }
             loaderBuffer.erase(0, 4 + rowBytes);
@@ -361,15 +378,16 @@ void Board::command(const std::string& text)
         double voc, isc;
         long st = condition(&voc, &isc);
         (void)st;
-        data.push_back(format("%d\t%d\t%d\t%d\t%d\t%ld\t%ld\t%d\t%ld", voc > 500.0 ? 1 : 0, 2, 8, 250,
-                              127, iCount(isc, 1), vCount(voc, 1), 2047,
+        data.push_back(format("%d\t%d\t%d\t%d\t%d\t%ld\t%ld\t%d\t%ld", voc > 500.0 ? 1 : 0, 2, 8,
+                              250, 127, iCount(isc, 1), vCount(voc, 1), 2047,
                               std::lround(2048.0 - 20.0 * (hsink_now(now) - 25.0))));
         reply(text, data, 0, false);
         return;
     }
     bool ramp = cmd == "ramp" || cmd == "charge" || cmd == "mea_utroque" || cmd == "mea_brask";
     bool ztest = cmd == "Z_tst_brask" || cmd == "Z_kill_brask" || cmd == "Z_sweep_brask";
-    bool single = cmd == "curr_mean" || cmd == "volt_mean" || cmd == "volt_spot" || cmd == "volt_sum";
+    bool single =
+        cmd == "curr_mean" || cmd == "volt_mean" || cmd == "volt_spot" || cmd == "volt_sum";
     if (!ramp && !ztest && !single) {
         reply(text, {}, 1, false); // unknown command
         return;
@@ -405,11 +423,14 @@ void Board::command(const std::string& text)
             if (dead)
                 v = 0.0;
             if (cmd == "ramp" || cmd == "charge" || cmd == "mea_utroque") {
-                data.push_back(format("%ld\t%ld", iCount(i, range), vCount(v, range)));
+                data.push_back(
+                    format("%ld\t%ld", noisy(iCount(i, range)), noisy(vCount(v, range))));
             } else {
-                long gate1 = ztest ? (cmd == "Z_sweep_brask" ? target * k / 127 : target) : 600 + 10 * k;
+                long gate1 =
+                    ztest ? (cmd == "Z_sweep_brask" ? target * k / 127 : target) : 600 + 10 * k;
                 long gate2 = std::max(0L, gate1 - 3);
-                data.push_back(format("%ld\t%ld\t%ld\t%ld", iCount(i, range), vCount(v, range), gate1, gate2));
+                data.push_back(
+                    format("%ld\t%ld\t%ld\t%ld", iCount(i, range), vCount(v, range), gate1, gate2));
             }
         }
         // The load took the module's power for about a second.

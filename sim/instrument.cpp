@@ -12,12 +12,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace sim {
+namespace sim
+{
 
 const char* const keyNames[6] = {"escape", "up", "backtab", "return", "down", "tab"};
 const int keyLines[6] = {93, 86, 89, 75, 81, 88};
 
-namespace {
+namespace
+{
 const int adapterLine = 105;
 const int powerLine = 106;
 const char* const spiNode = "/dev/spidev0.0";
@@ -57,7 +59,8 @@ int channelCode(const std::string& name)
 }
 } // namespace
 
-Instrument::Instrument(const std::string& rootFolder, bool fastMode) : root(rootFolder), fast(fastMode)
+Instrument::Instrument(const std::string& rootFolder, bool fastMode)
+    : root(rootFolder), fast(fastMode)
 {
     while (root.size() > 1 && root.back() == '/')
         root.pop_back();
@@ -117,7 +120,8 @@ bool Instrument::removeNode(const std::string& devicePath)
 
 bool Instrument::start(std::string* error)
 {
-    for (const char* dir : {"/dev/gpio", "/usr/bin", "/bin", "/var/run", "/media", "/etc", "/krm510data"})
+    for (const char* dir :
+         {"/dev/gpio", "/usr/bin", "/bin", "/var/run", "/media", "/etc", "/krm510data"})
         makePath(path(dir));
     makePath(stateDir() + "/stick");
     nodes[spiNode] = "";
@@ -379,8 +383,8 @@ std::string Instrument::pvQuery(const std::vector<std::string>& w)
     }
     if (w[1] == "model") {
         const DiodeModel& m = pv.model();
-        return ok(format("iph=%.6g i0=%.6g a=%.6g rs=%.6g rsh=%.6g krs=%.6g", m.iph, m.i0, m.a, m.rs,
-                         m.gsh > 0 ? 1.0 / m.gsh : INFINITY, m.krs));
+        return ok(format("iph=%.6g i0=%.6g a=%.6g rs=%.6g rsh=%.6g krs=%.6g", m.iph, m.i0, m.a,
+                         m.rs, m.gsh > 0 ? 1.0 / m.gsh : INFINITY, m.krs));
     }
     if (w[1] == "current" && w.size() > 2) {
         double v;
@@ -409,7 +413,8 @@ std::string Instrument::pvQuery(const std::vector<std::string>& w)
     return fail("pv figures|model|iv [n]|current <V>|voltage <A>");
 }
 
-std::string Instrument::scenario(const std::vector<std::string>& w, const std::string& line, bool* quit)
+std::string Instrument::scenario(const std::vector<std::string>& w, const std::string& line,
+                                 bool* quit)
 {
     const std::string& cmd = w[0];
     auto number = [&w](size_t i, double* v) { return i < w.size() && parseDouble(w[i], v); };
@@ -418,8 +423,8 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
     long n = 0;
 
     if (cmd == "ping")
-        return ok(format("krm510-simd pid=%d root=%s mode=%s", static_cast<int>(getpid()), root.c_str(),
-                         fast ? "fast" : "real"));
+        return ok(format("krm510-simd pid=%d root=%s mode=%s", static_cast<int>(getpid()),
+                         root.c_str(), fast ? "fast" : "real"));
     if (cmd == "timing") {
         if (w.size() >= 2) {
             if (w[1] != "fast" && w[1] != "real")
@@ -529,18 +534,21 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
             else
                 return fail("unknown calibration key " + k);
         } else {
-            return fail("set irradiance|tcell|tmodule|tambient|probe|pt100|battery|adapter|series|module|cal ...");
+            return fail("set "
+                        "irradiance|tcell|tmodule|tambient|probe|pt100|battery|adapter|series|"
+                        "module|cal ...");
         }
         applyConditions();
         return ok();
     }
     if (cmd == "get") {
-        return ok(format("irradiance=%g tcell=%g tmodule=%g tambient=%g probe=%s battery=%g adapter=%d "
-                         "series=%d power=%d hsink=%.2f stick=%s remote=%s gen=%d",
-                         env.irradiance, cellTemperature(), moduleTemperature(), env.tambient,
-                         env.probeOnModule ? "module" : "ambient", env.battery, env.adapter ? 1 : 0,
-                         pv.series(), gpio[powerLine].level, board.hsink_now(nowMs()),
-                         stick ? "in" : "out", remote.link.c_str(), remote.generation));
+        return ok(
+            format("irradiance=%g tcell=%g tmodule=%g tambient=%g probe=%s battery=%g adapter=%d "
+                   "series=%d power=%d hsink=%.2f stick=%s remote=%s gen=%d",
+                   env.irradiance, cellTemperature(), moduleTemperature(), env.tambient,
+                   env.probeOnModule ? "module" : "ambient", env.battery, env.adapter ? 1 : 0,
+                   pv.series(), gpio[powerLine].level, board.hsink_now(nowMs()),
+                   stick ? "in" : "out", remote.link.c_str(), remote.generation));
     }
     if (cmd == "pv")
         return pvQuery(w);
@@ -549,6 +557,7 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
         if (f == "none" || f == "clear") {
             fault = SourceFault::None;
             pv.clearShading();
+            board.setNoise(0.0, 1);
         } else if (f == "open") {
             fault = SourceFault::Open;
         } else if (f == "reverse") {
@@ -560,16 +569,28 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
             if ((w.size() > 3 && !integer(3, &module)) || (w.size() > 4 && !integer(4, &sub)) ||
                 !pv.setShade(static_cast<int>(module), static_cast<int>(sub), v))
                 return fail("fault shade <factor 0..1> [module] [substring]");
-        } else if (f == "bypass" && w.size() >= 3 && (w[2] == "short" || w[2] == "open" || w[2] == "ok")) {
+        } else if (f == "bypass" && w.size() >= 3 &&
+                   (w[2] == "short" || w[2] == "open" || w[2] == "ok")) {
             long module = 0, sub = 0;
-            PvSource::Bypass b = w[2] == "short" ? PvSource::BypassShort
+            PvSource::Bypass b = w[2] == "short"  ? PvSource::BypassShort
                                  : w[2] == "open" ? PvSource::BypassOpen
                                                   : PvSource::BypassOk;
             if ((w.size() > 3 && !integer(3, &module)) || (w.size() > 4 && !integer(4, &sub)) ||
                 !pv.setBypass(static_cast<int>(module), static_cast<int>(sub), b))
                 return fail("fault bypass short|open|ok [module] [substring]");
+        } else if (f == "rs" && number(2, &v) && std::isfinite(v) && v >= 0) {
+            pv.setAddedSeries(v);
+        } else if (f == "shunt" && number(2, &v) && std::isfinite(v) && v >= 0) {
+            pv.setShunt(v);
+        } else if (f == "noise" && number(2, &v) && std::isfinite(v) && v >= 0) {
+            long seed = 1;
+            if (w.size() > 3 && (!integer(3, &seed) || seed < 0))
+                return fail("fault noise <counts> [seed]");
+            board.setNoise(v, static_cast<unsigned>(seed));
         } else {
-            return fail("fault none|open|reverse|floating|shade <f> [m] [s]|bypass short|open|ok [m] [s]");
+            return fail(
+                "fault none|open|reverse|floating|shade <f> [m] [s]|bypass short|open|ok [m] [s]"
+                "|rs <ohm>|shunt <ohm>|noise <counts> [seed]");
         }
         return ok();
     }
@@ -604,7 +625,8 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
     if (cmd == "nodes") {
         std::string text;
         for (const auto& node : nodes)
-            text += (text.empty() ? "" : " ") + node.first + (removed.count(node.first) ? "(removed)" : "");
+            text += (text.empty() ? "" : " ") + node.first +
+                    (removed.count(node.first) ? "(removed)" : "");
         return ok(text);
     }
     if (cmd == "adc" && w.size() >= 2) {
@@ -625,8 +647,8 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
             return ok();
         }
         if (w[1] == "registers")
-            return ok(format("mode=0x%04x config=0x%04x io=0x%02x transfers=%d", adc.mode, adc.config,
-                             adc.io, adc.transfers));
+            return ok(format("mode=0x%04x config=0x%04x io=0x%02x transfers=%d", adc.mode,
+                             adc.config, adc.io, adc.transfers));
         if (w[1] == "count" && w.size() >= 4 && integer(3, &n)) {
             int ch = channelCode(w[2]);
             if (ch < 0)
@@ -716,12 +738,13 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
         }
         if (what == "state")
             return ok(format("power=%s mode=%s pending=%d", board.powered ? "on" : "off",
-                             board.mode == Board::App ? "app"
+                             board.mode == Board::App      ? "app"
                              : board.mode == Board::Loader ? "loader"
                                                            : "window",
                              boardLine.outputPending() ? 1 : 0));
-        return fail("board log [clear]|fault ...|clear <fault>|reply <escaped bytes>|status <n>|auto|"
-                    "hsink [C [hold]]|version <text>|eol <escaped>|state");
+        return fail(
+            "board log [clear]|fault ...|clear <fault>|reply <escaped bytes>|status <n>|auto|"
+            "hsink [C [hold]]|version <text>|eol <escaped>|state");
     }
     if (cmd == "loader" && w.size() >= 2) {
         if (w[1] == "chip" && w.size() >= 5 && integer(2, &n)) {
@@ -794,7 +817,8 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
             std::string text;
             for (long i = 0; i < count; i++) {
                 auto found = board.flash.find(static_cast<uint32_t>(n + 2 * i));
-                text += format("%s%06x", i ? " " : "", found == board.flash.end() ? 0xFFFFFFu : found->second);
+                text += format("%s%06x", i ? " " : "",
+                               found == board.flash.end() ? 0xFFFFFFu : found->second);
             }
             return ok(text);
         }
@@ -805,8 +829,8 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
         return fail("flash rows|read <address> [count]|reset");
     }
     if (cmd == "backlight") {
-        return ok(format("psc0=%u pwm0=%u psc1=%u pwm1=%u ls0=%u writes=%zu", backlight[1], backlight[2],
-                         backlight[3], backlight[4], backlight[5], i2cLog.size()));
+        return ok(format("psc0=%u pwm0=%u psc1=%u pwm1=%u ls0=%u writes=%zu", backlight[1],
+                         backlight[2], backlight[3], backlight[4], backlight[5], i2cLog.size()));
     }
     if (cmd == "i2c" && w.size() >= 2 && w[1] == "log") {
         std::string text = std::to_string(i2cLog.size());
@@ -816,7 +840,8 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
     }
     if (cmd == "power") {
         const Gpio& g = gpio[powerLine];
-        return ok(format("level=%d board=%s writes=%d", g.level, board.powered ? "on" : "off", g.writes));
+        return ok(
+            format("level=%d board=%s writes=%d", g.level, board.powered ? "on" : "off", g.writes));
     }
     if (cmd == "gpio" && w.size() >= 2 && integer(1, &n)) {
         if (w.size() >= 3) {
@@ -829,8 +854,8 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
                 gpio[static_cast<int>(n)].level = level != 0 ? 1 : 0;
         }
         const Gpio& g = gpio[static_cast<int>(n)];
-        return ok(format("level=%d direction=%s writes=%d tap=%d", g.level, g.output ? "out" : "in", g.writes,
-                         g.tap ? 1 : 0));
+        return ok(format("level=%d direction=%s writes=%d tap=%d", g.level, g.output ? "out" : "in",
+                         g.writes, g.tap ? 1 : 0));
     }
     if (cmd == "remote" && w.size() >= 3) {
         if (w[1] == "gen" && integer(2, &n) && (n == 1 || n == 2)) {
@@ -872,8 +897,9 @@ std::string Instrument::scenario(const std::vector<std::string>& w, const std::s
             remote.forcedReplies.push_back(unescape(text));
             return ok(std::to_string(remote.forcedReplies.size()));
         }
-        return fail("remote gen 1|2, link none|usb <n>|rfcomm, novalue irr|tcell|tenv on|off, log clear, "
-                    "reply <escaped>");
+        return fail(
+            "remote gen 1|2, link none|usb <n>|rfcomm, novalue irr|tcell|tenv on|off, log clear, "
+            "reply <escaped>");
     }
     if (cmd == "remote" && w.size() == 2 && w[1] == "log") {
         std::string text = std::to_string(remote.log.size());

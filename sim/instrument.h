@@ -15,25 +15,27 @@
 #include <cstdint>
 #include <deque>
 #include <map>
+#include <random>
 #include <set>
 #include <string>
 #include <vector>
 
-namespace sim {
+namespace sim
+{
 
 // The simulator's own calibration. Defaults equal the instrument's
 // configuration defaults, so that counts sent with them come out right in a
 // program with a default configuration.
 struct Calibration {
-    double adci[2] = {0.0032, 0.0064};         // A per count, current ranges 0 and 1
-    int adciOffset[2] = {0, 0};                // counts
-    double adcv[2] = {0.141333, 0.282624};     // V per count, voltage ranges 0 and 1
+    double adci[2] = {0.0032, 0.0064};            // A per count, current ranges 0 and 1
+    int adciOffset[2] = {0, 0};                   // counts
+    double adcv[2] = {0.141333, 0.282624};        // V per count, voltage ranges 0 and 1
     double adcvOffset[2] = {-0.002624, 0.147721}; // V
-    double kpyra = 26.17963;                   // counts per mV at gain 1 (AD7795)
-    double pyranoSens = 10.54;                 // mV per kW/m2 (the pyranometer)
-    double pt100Alpha = 0.00385;               // ohm per ohm per degree C
-    double rref = 100.0;                       // ohm, reference resistor
-    double batteryDivider = 0.1;               // battery volts to converter input
+    double kpyra = 26.17963;                      // counts per mV at gain 1 (AD7795)
+    double pyranoSens = 10.54;                    // mV per kW/m2 (the pyranometer)
+    double pt100Alpha = 0.00385;                  // ohm per ohm per degree C
+    double rref = 100.0;                          // ohm, reference resistor
+    double batteryDivider = 0.1;                  // battery volts to converter input
 };
 
 struct Environment {
@@ -41,9 +43,9 @@ struct Environment {
     double tcell = 25.0;        // degrees C; NaN: from ambient and NOCT
     double tmodule = NAN;       // probe on the module's back; NaN: the cell temperature
     double tambient = 20.0;
-    bool probeOnModule = true;  // which of the two the local PT100 input sees
+    bool probeOnModule = true; // which of the two the local PT100 input sees
     bool pt100Open = false;
-    double battery = 12.9;      // V
+    double battery = 12.9; // V
     bool adapter = false;
 };
 
@@ -89,7 +91,7 @@ public:
     bool powered = true;
 
     // Scenario state.
-    std::vector<std::string> log; // command lines received
+    std::vector<std::string> log;       // command lines received
     std::map<std::string, long> faults; // name -> argument
     std::set<std::string> onceFaults;
     std::deque<std::string> forcedReplies;
@@ -98,6 +100,12 @@ public:
     double hsink = NAN; // NaN: starts at ambient
     double hsinkAt = 0.0;
     bool hsinkHeld = false; // held: neither warms with a ramp nor cools
+    // Gaussian noise on the converters' counts of a ramp (standard deviation
+    // in counts, 0: none), from a seeded generator so that a run repeats.
+    void setNoise(double counts, unsigned seed);
+    long noisy(long count);
+    double noiseCounts = 0.0;
+    std::mt19937 noiseSource;
     double heatCapacity = 400.0; // J/K
     double measureMs = 1000.0;   // ramp time at real pace
     std::string eol = "\r";

@@ -5,9 +5,11 @@
 #include <algorithm>
 #include <cmath>
 
-namespace sim {
+namespace sim
+{
 
-namespace {
+namespace
+{
 
 const double kOverQ = 8.617333262e-5; // Boltzmann constant over the electron charge, V/K
 const double tStcK = 298.15;
@@ -301,6 +303,20 @@ void PvSource::setConditions(double irradiance, double cellTemperature)
 void PvSource::clearShading()
 {
     strings.clear();
+    addedRs = 0.0;
+    shuntR = 0.0;
+    rebuild();
+}
+
+void PvSource::setAddedSeries(double ohmPerModule)
+{
+    addedRs = std::max(0.0, ohmPerModule);
+    rebuild();
+}
+
+void PvSource::setShunt(double ohmPerModule)
+{
+    shuntR = std::max(0.0, ohmPerModule);
     rebuild();
 }
 
@@ -382,12 +398,34 @@ double PvSource::substringVoltage(double current, const Substring& s) const
     return vj - branchCurrent(m, vj) * m.rs;
 }
 
-double PvSource::voltageAt(double current) const
+double PvSource::cellsVoltageAt(double current) const
 {
     double v = 0.0;
     for (const auto& gr : groups)
         v += gr.count * substringVoltage(current, gr.state);
     return v;
+}
+
+double PvSource::voltageAt(double current) const
+{
+    const double series = modules * addedRs;
+    if (shuntR <= 0.0)
+        return cellsVoltageAt(current) - series * current;
+    // The shunts of identical modules in series act as one of their sum
+    // across the string's cells. The cells carry the terminal current plus
+    // what the shunt takes: find that cell current c, with
+    // c - V(c) / Rsh = current (rising in c, bracketed around the current).
+    const double rsh = modules * shuntR;
+    const double spread = std::fabs(cellsVoltageAt(current)) / rsh + 1e-6;
+    double lo = current - spread, hi = current + spread;
+    for (int i = 0; i < 60; i++) {
+        double mid = 0.5 * (lo + hi);
+        if (mid - cellsVoltageAt(mid) / rsh < current)
+            lo = mid;
+        else
+            hi = mid;
+    }
+    return cellsVoltageAt(0.5 * (lo + hi)) - series * current;
 }
 
 double PvSource::currentAt(double voltage) const

@@ -9,7 +9,8 @@
 #include <string>
 #include <vector>
 
-namespace sim {
+namespace sim
+{
 
 struct DataSheet {
     double pmax = 250.0;  // W
@@ -27,12 +28,12 @@ struct DataSheet {
 
 // Fitted parameters of one module, at standard test conditions.
 struct DiodeModel {
-    double iph = 0;  // A
-    double i0 = 0;   // A
-    double a = 0;    // V, n * cells * kT/q
-    double rs = 0;   // ohm
-    double gsh = 0;  // 1/ohm (1/Rsh)
-    double krs = 0;  // 1/K, temperature coefficient of rs (fitted to the data sheet's kpmax)
+    double iph = 0; // A
+    double i0 = 0;  // A
+    double a = 0;   // V, n * cells * kT/q
+    double rs = 0;  // ohm
+    double gsh = 0; // 1/ohm (1/Rsh)
+    double krs = 0; // 1/K, temperature coefficient of rs (fitted to the data sheet's kpmax)
 };
 
 struct PvFigures {
@@ -64,6 +65,14 @@ public:
     // Irradiance factor (0..1) of one substring of one module.
     bool setShade(int module, int substring, double factor);
     bool setBypass(int module, int substring, Bypass state);
+    // Faults beside the cells, the same on every module: a resistance added in
+    // series with each module (cables, connectors, a corroded joint) and a
+    // resistance across each module (a leaky cell or junction box). Zero
+    // removes them; clearShading does too.
+    void setAddedSeries(double ohmPerModule);
+    void setShunt(double ohmPerModule);
+    double addedSeries() const { return addedRs; }
+    double shunt() const { return shuntR; }
 
     // The curve at the present conditions: terminal voltage at a current and
     // current at a terminal voltage.
@@ -86,12 +95,16 @@ private:
 
     void rebuild();
     double substringVoltage(double current, const Substring& s) const;
+    // Voltage of the cells and bypass diodes alone, at a current through them.
+    double cellsVoltageAt(double current) const;
 
     DataSheet sheet;
     DiodeModel stc;
     DiodeModel now; // at the present conditions, one module
     int modules = 1;
     double g = 1000.0, t = 25.0;
+    double addedRs = 0.0;                        // ohm per module
+    double shuntR = 0.0;                         // ohm per module, 0: none
     std::vector<std::vector<Substring>> strings; // [module][substring]
     std::vector<Group> groups;                   // distinct substrings and their count
     mutable bool cacheValid = false;

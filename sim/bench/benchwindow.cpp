@@ -104,6 +104,9 @@ BenchWindow::BenchWindow(const QString& path, QWidget* parent) : QWidget(parent)
     fault->addItem("half shade on one substring", "shade 0.5 0 0");
     fault->addItem("bypass diode short", "bypass short 0 0");
     fault->addItem("bypass diode open, substring shaded", "bypass open 0 0");
+    fault->addItem("series resistance +1 ohm per module", "rs 1");
+    fault->addItem("shunt of 20 ohm per module", "shunt 20");
+    fault->addItem("noise of 2 counts", "noise 2");
     fault->addItem("open circuit", "open");
     fault->addItem("reversed polarity", "reverse");
     fault->addItem("floating negative", "floating");

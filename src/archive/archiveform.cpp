@@ -1,5 +1,6 @@
 #include "archive/archiveform.h"
 
+#include "archive/formdialog.h"
 #include "data/storedtext.h"
 #include "toolkit/embkeyboard.h"
 #include "toolkit/numbertext.h"
@@ -9,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <algorithm>
 #include <cmath>
 
@@ -18,6 +20,15 @@ float defaultKvoc(int type)
     if (type < 0 || type >= PANEL_TYPES)
         return kvoc[0];
     return kvoc[type];
+}
+
+QPushButton* archiveMenuButton(const char* icon, const QString& text, const char* name)
+{
+    QPushButton* button = new QPushButton(QIcon(icon), text);
+    button->setObjectName(name);
+    button->setIconSize(QSize(48, 48));
+    button->setFlat(true);
+    return button;
 }
 
 void setLineEditWidth(QLineEdit* edit, int width)
@@ -32,6 +43,48 @@ void createLineEdit(QGridLayout* grid, QLineEdit* edit, QString label, QString u
     grid->addWidget(new QLabel(label), row, column);
     grid->addWidget(edit, row, column + 1);
     grid->addWidget(new QLabel(unit), row, column + 2);
+}
+
+void placeFeatureNumbers(FormDialog* form, QGridLayout* grid, FormNumber number[FEATURE_NUMBERS],
+                         const QString label[FEATURE_NUMBERS], QComboBox* type,
+                         const QString& typeLabel)
+{
+    static const char* const unit[FEATURE_NUMBERS] = {"W",    "°C",   "V",    "A", "V", "A",
+                                                      "%/°C", "%/°C", "%/°C", "%", "%"};
+    static const char* const name[FEATURE_NUMBERS] = {
+        "pmax", "noct", "vmpp", "impp", "voc", "isc", "kisc", "kvoc", "kpmax", "tollm", "tollp"};
+    for (int i = 0; i < FEATURE_NUMBERS; i++) {
+        QLineEdit* edit = number[i].edit;
+        edit->setObjectName(name[i]);
+        setLineEditWidth(edit, 120);
+        bool left = i < FEATURE_LEFT;
+        createLineEdit(grid, edit, label[i], QString::fromUtf8(unit[i]),
+                       left ? 1 + i : 2 + i - FEATURE_LEFT, left ? 0 : 3);
+        form->filterLine(edit);
+    }
+    type->setObjectName("type");
+    grid->addWidget(new QLabel(typeLabel), 1, 3);
+    grid->addWidget(type, 1, 4, 1, 2);
+}
+
+void fillTypeCombo(QComboBox* combo, QMap<QString, int>* types, const QString names[PANEL_TYPES])
+{
+    for (int type = 0; type < PANEL_TYPES; type++) {
+        types->insert(names[type], type);
+        combo->addItem(names[type]);
+    }
+}
+
+QList<QWidget*> featureChain(const QList<QWidget*>& head, const FormNumber number[FEATURE_NUMBERS],
+                             QComboBox* type, const QList<QWidget*>& buttons)
+{
+    QList<QWidget*> chain = head;
+    for (int i = 0; i < FEATURE_LEFT; i++)
+        chain << number[i].edit;
+    chain << type;
+    for (int i = FEATURE_LEFT; i < FEATURE_NUMBERS; i++)
+        chain << number[i].edit;
+    return chain << buttons;
 }
 
 void showFormNumber(const FormNumber& field)

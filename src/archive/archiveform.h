@@ -5,8 +5,10 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QMap>
 #include <QString>
 
+class FormDialog;
 class QComboBox;
 class QGridLayout;
 class QLineEdit;
@@ -25,6 +27,10 @@ class QWidget;
 // The temperature coefficient of Voc that selecting a technology puts in the form.
 float defaultKvoc(int type);
 
+class QPushButton;
+// A flat button with a large icon of the archive menus.
+QPushButton* archiveMenuButton(const char* icon, const QString& text, const char* name);
+
 void setLineEditWidth(QLineEdit* edit, int width);
 // Puts label, line edit and unit into the grid at row, from column on.
 void createLineEdit(QGridLayout* grid, QLineEdit* edit, QString label, QString unit, int row,
@@ -41,6 +47,22 @@ struct FormNumber {
     QString boxTitle;
     QString tag;
 };
+
+// The eleven numbers of a module's data sheet, in the order of the forms'
+// Number enums (Pmax, NOCT, Vmpp, Impp, Voc, Isc, then Alpha, Beta, Gamma,
+// Toll-, Toll+): the first six make the left column from row 1; the type
+// combo stands at row 1 of the right column and the other five below it.
+#define FEATURE_NUMBERS 11
+#define FEATURE_LEFT 6
+void placeFeatureNumbers(FormDialog* form, QGridLayout* grid, FormNumber number[FEATURE_NUMBERS],
+                         const QString label[FEATURE_NUMBERS], QComboBox* type,
+                         const QString& typeLabel);
+// The technologies into the type combo, and each name's type into the map.
+void fillTypeCombo(QComboBox* combo, QMap<QString, int>* types, const QString names[PANEL_TYPES]);
+// The data sheet forms' chain: the widgets above the numbers, the left
+// column, the type, the right column, the buttons.
+QList<QWidget*> featureChain(const QList<QWidget*>& head, const FormNumber number[FEATURE_NUMBERS],
+                             QComboBox* type, const QList<QWidget*>& buttons);
 
 enum FormRound { ROUND_LEFT = 0, ROUND_REFUSED = 1, ROUND_ACCEPTED = 2 };
 

@@ -15,30 +15,19 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-static QPushButton* menuButton(const char* icon, const QString& text, const char* name)
+ArchivePanel::ArchivePanel(QWidget* parent)
+    : FormDialog(parent, "ArchivePanel", tr("Archivio Moduli"), 0)
 {
-    QPushButton* button = new QPushButton(QIcon(icon), text);
-    button->setObjectName(name);
-    button->setIconSize(QSize(48, 48));
-    button->setFlat(true);
-    return button;
-}
 
-ArchivePanel::ArchivePanel(QWidget* parent) : QDialog(parent)
-{
-    setObjectName("ArchivePanel");
-    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
-    setWindowTitle(tr("Archivio Moduli"));
-    _infoBar = new InfoBar(this);
-    _infoBar->setTitle(tr("Archivio Moduli"));
-
-    _buttonNew = menuButton(":/icon/insertnew.png", tr("Nuovo Modulo"), "Nuovo Modulo");
-    _buttonEdit = menuButton(":/icon/editpanel.png", tr("Modifica Modulo"), "Modifica Modulo");
-    _buttonEditBrand = menuButton(":/icon/editpanel.png", tr("Modifica Marca"), "Modifica Marca");
-    _buttonDelete = menuButton(":/icon/cancel.png", tr("Cancella"), "Cancella");
-    _buttonFind = menuButton(":/icon/find-panel.png", tr("Trova"), "Trova");
-    _buttonList = menuButton(":/icon/archiveList.png", tr("Elenco"), "Elenco");
-    _buttonExit = menuButton(":/icon/exit.png", tr("Exit"), "Exit");
+    _buttonNew = archiveMenuButton(":/icon/insertnew.png", tr("Nuovo Modulo"), "Nuovo Modulo");
+    _buttonEdit =
+        archiveMenuButton(":/icon/editpanel.png", tr("Modifica Modulo"), "Modifica Modulo");
+    _buttonEditBrand =
+        archiveMenuButton(":/icon/editpanel.png", tr("Modifica Marca"), "Modifica Marca");
+    _buttonDelete = archiveMenuButton(":/icon/cancel.png", tr("Cancella"), "Cancella");
+    _buttonFind = archiveMenuButton(":/icon/find-panel.png", tr("Trova"), "Trova");
+    _buttonList = archiveMenuButton(":/icon/archiveList.png", tr("Elenco"), "Elenco");
+    _buttonExit = archiveMenuButton(":/icon/exit.png", tr("Exit"), "Exit");
 
     QGridLayout* grid = new QGridLayout;
     grid->setHorizontalSpacing(10);
@@ -128,40 +117,24 @@ void ArchivePanel::goToListPanel()
 
 QList<QWidget*> ArchivePanel::focusChain() const
 {
-    return {_buttonNew, _buttonEdit, _buttonEditBrand, _buttonDelete,
+    return {_buttonNew,  _buttonEdit, _buttonEditBrand, _buttonDelete,
             _buttonFind, _buttonList, _buttonExit};
 }
 
-void ArchivePanel::keyPressEvent(QKeyEvent* event)
+void ArchivePanel::returnOn(QWidget* focused)
 {
-    switch (event->key()) {
-    case Qt::Key_Down:
-        walkFocus(focusChain(), true);
-        break;
-    case Qt::Key_Up:
-        walkFocus(focusChain(), false);
-        break;
-    case Qt::Key_Return:
-        if (_buttonNew->hasFocus())
-            goToNewPanel();
-        else if (_buttonEdit->hasFocus())
-            goToEditPanel();
-        else if (_buttonEditBrand->hasFocus())
-            goToEditBrand();
-        else if (_buttonDelete->hasFocus())
-            goToDeletePanel();
-        else if (_buttonFind->hasFocus())
-            goToFindPanel();
-        else if (_buttonList->hasFocus())
-            goToListPanel();
-        else if (_buttonExit->hasFocus())
-            reject();
-        break;
-    case Qt::Key_Escape:
+    if (focused == _buttonNew)
+        goToNewPanel();
+    else if (focused == _buttonEdit)
+        goToEditPanel();
+    else if (focused == _buttonEditBrand)
+        goToEditBrand();
+    else if (focused == _buttonDelete)
+        goToDeletePanel();
+    else if (focused == _buttonFind)
+        goToFindPanel();
+    else if (focused == _buttonList)
+        goToListPanel();
+    else if (focused == _buttonExit)
         reject();
-        break;
-    default:
-        break;
-    }
-    QWidget::keyPressEvent(event);
 }

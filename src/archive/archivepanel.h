@@ -1,16 +1,11 @@
 #ifndef KRM_ARCHIVE_ARCHIVEPANEL_H
 #define KRM_ARCHIVE_ARCHIVEPANEL_H
 
-#include "data/coredata.h"
-
-#include <QDialog>
-
-class InfoBar;
-class QPushButton;
+#include "archive/formdialog.h"
 
 // The menu of the module archive. Each entry reads the brands, opens its
 // screen with them and closes the list again when the screen is gone.
-class ArchivePanel : public QDialog
+class ArchivePanel : public FormDialog
 {
     Q_OBJECT
 public:
@@ -25,12 +20,10 @@ public slots:
     void goToListPanel();
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
+    QList<QWidget*> focusChain() const override;
+    void returnOn(QWidget* focused) override;
 
 private:
-    QList<QWidget*> focusChain() const;
-
-    InfoBar* _infoBar;
     QPushButton* _buttonNew;
     QPushButton* _buttonEdit;
     QPushButton* _buttonEditBrand;

@@ -3,6 +3,7 @@
 #include "archive/archiveform.h"
 #include "data/datapanel.h"
 #include "data/direntry.h"
+#include "data/recordfiles.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
 
@@ -17,10 +18,6 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <cstring>
-#include <dirent.h>
-#include <unistd.h>
-
-#define CWD_SIZE 256
 
 DeletePanel::DeletePanel(QWidget* parent, _listBrand* brandList)
     : QDialog(parent), _brandHead(brandList), _modelHead(nullptr)
@@ -112,14 +109,7 @@ void DeletePanel::selectModel(QListWidgetItem* item)
 
 bool DeletePanel::askConfirmation(const QString& text)
 {
-    QMessageBox* box =
-        newMessageBox(this, QMessageBox::Question, tr("Cancella Modulo / Modello"), text);
-    box->setInformativeText(tr("Conferma?"));
-    box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box->setDefaultButton(QMessageBox::No);
-    bool yes = box->exec() == QMessageBox::Yes;
-    delete box;
-    return yes;
+    return askYesNo(this, tr("Cancella Modulo / Modello"), text, tr("Conferma?"));
 }
 
 void DeletePanel::questionDeleteModel()
@@ -138,16 +128,8 @@ void DeletePanel::eraseModel()
 {
     _listBrand* brandNode = findBrandDir(_brandHead, comboKey(_comboBrand).constData());
     _listModel* modelNode = findModelFile(_modelHead, _modelSelected.constData());
-    if (brandNode != nullptr && modelNode != nullptr) {
-        char saved[CWD_SIZE];
-        if (chDataPanelDir(saved, sizeof saved) == 0) {
-            if (chdir(brandNode->dir) == 0)
-                myUnlink(modelNode->file);
-            if (chdir(saved) != 0) {
-                // the former directory went away; the data layer enters by full paths
-            }
-        }
-    }
+    if (brandNode != nullptr && modelNode != nullptr)
+        deleteModelPanel(brandNode->dir, modelNode->file);
     selectBrandOnCombo();
 }
 
@@ -165,31 +147,11 @@ void DeletePanel::eraseBrand()
     progress.setStyleSheet(READ_PROGRESS_STYLE);
     progress.setValue(0);
 
-    char saved[CWD_SIZE];
-    if (chDataPanelDir(saved, sizeof saved) == 0) {
-        int step = 0;
-        if (chdir(node->dir) == 0) {
-            // every entry of the brand, its name file included
-            DIR* dir = opendir("./");
-            while (dir != nullptr) {
-                struct dirent* entry = readdir(dir);
-                if (entry == nullptr)
-                    break;
-                if (strcmp(entry->d_name, ".") == 0 || strcmp(entry->d_name, "..") == 0)
-                    continue;
-                myUnlink(entry->d_name);
-                progress.setValue(++step);
-                QCoreApplication::processEvents();
-            }
-            if (dir != nullptr)
-                closedir(dir);
-            if (chdir("../") == 0)
-                myUnlink(node->dir);
-        }
-        if (chdir(saved) != 0) {
-            // the former directory went away; the data layer enters by full paths
-        }
-    }
+    int step = 0;
+    deleteBrandPanel(node->dir, [&progress, &step] {
+        progress.setValue(++step);
+        QCoreApplication::processEvents();
+    });
     progress.setValue(models + 2);
 
     _modelHead = closeListModelBrand(_modelHead);

@@ -19,16 +19,13 @@
 #include <cstring>
 
 EditPanel::EditPanel(QWidget* parent, _listBrand* brandList)
-    : QDialog(parent), _brandHead(brandList), _modelHead(nullptr)
+    : FormDialog(parent, "EditPanel", tr("Modifica Modulo"), 24), _brandHead(brandList),
+      _modelHead(nullptr)
 {
-    setObjectName("EditPanel");
-    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
     memset(&_record, 0, sizeof _record);
-    _infoBar = new InfoBar(this);
-    _infoBar->setTitle(tr("Modifica Modulo"));
-    setFormFont(this, _infoBar, 24);
 
     _panelFeature& f = _record.feature;
+    // clang-format off
     _number[PMAX] = {new QLineEdit, &f.pmax, 1, 1000, 1, tr("Pmax"), tr("Pmax"), tr("Pmax : ")};
     _number[NOCT] = {new QLineEdit, &f.noct, 0, 100, 1,
                      tr("Temperatura Nominale della Cella - NOCT [°C]"), tr("NOCT [°C]"),
@@ -53,9 +50,7 @@ EditPanel::EditPanel(QWidget* parent, _listBrand* brandList)
     const QString label[NUMBERS] = {tr("Pmax"),  tr("NOCT"), tr("Vmpp"),  tr("Impp"),
                                     tr("Voc"),   tr("Isc"),  tr("Alpha"), tr("Beta"),
                                     tr("Gamma"), tr("Toll-"), tr("Toll+")};
-    const QString unit[NUMBERS] = {"W", "°C", "V", "A", "V", "A", "%/°C", "%/°C", "%/°C", "%", "%"};
-    const char* name[NUMBERS] = {"pmax", "noct", "vmpp", "impp", "voc", "isc",
-                                 "kisc", "kvoc", "kpmax", "tollm", "tollp"};
+    // clang-format on
 
     QGridLayout* grid = new QGridLayout;
     _comboBrand = new QComboBox;
@@ -66,34 +61,12 @@ EditPanel::EditPanel(QWidget* parent, _listBrand* brandList)
     _comboModel->setObjectName("model");
     grid->addWidget(new QLabel(tr("Modello")), 0, 3);
     grid->addWidget(_comboModel, 0, 4, 1, 2);
-    for (int i = 0; i < NUMBERS; i++) {
-        _number[i].edit->setObjectName(name[i]);
-        setLineEditWidth(_number[i].edit, 120);
-        int row = i < KISC ? 1 + i : 2 + i - KISC;
-        createLineEdit(grid, _number[i].edit, label[i], unit[i], row, i < KISC ? 0 : 3);
-        _number[i].edit->installEventFilter(this);
-    }
     _comboType = new QComboBox;
-    _comboType->setObjectName("type");
-    grid->addWidget(new QLabel(tr("Tipo")), 1, 3);
-    grid->addWidget(_comboType, 1, 4, 1, 2);
+    placeFeatureNumbers(this, grid, _number, label, _comboType, tr("Tipo"));
 
-    _buttonSave = new QPushButton(QIcon(":/icon/save.png"), tr("Salva"));
-    _buttonSave->setObjectName("Salva");
-    _buttonReset = new QPushButton(QIcon(":/icon/view-refresh.png"), tr("Reset"));
-    _buttonReset->setObjectName("Reset");
-    _buttonExit = new QPushButton(QIcon(":/icon/exit.png"), tr("Exit"));
-    _buttonExit->setObjectName("Exit");
-    QHBoxLayout* buttons = new QHBoxLayout;
-    buttons->addWidget(_buttonSave);
-    buttons->addWidget(_buttonReset);
-    buttons->addWidget(_buttonExit);
-
-    QVBoxLayout* box = new QVBoxLayout(this);
-    box->addWidget(_infoBar);
-    box->addLayout(grid);
-    box->addStretch();
-    box->addLayout(buttons);
+    _buttonSave = formButton(":/icon/save.png", tr("Salva"), "Salva");
+    _buttonReset = formButton(":/icon/view-refresh.png", tr("Reset"), "Reset");
+    _buttonExit = formButton(":/icon/exit.png", tr("Exit"), "Exit");
 
     prepareCombo();
     resetFeature(&_record.feature);
@@ -106,9 +79,7 @@ EditPanel::EditPanel(QWidget* parent, _listBrand* brandList)
     connect(_buttonSave, &QPushButton::clicked, this, &EditPanel::savePanelEdited);
     connect(_buttonReset, &QPushButton::clicked, this, &EditPanel::modelReloaded);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
-    // modal from the first show: exec() on a shown window would not make it so
-    setModal(true);
-    showMaximized();
+    showForm(grid, {_buttonSave, _buttonReset, _buttonExit});
 }
 
 EditPanel::~EditPanel()
@@ -119,13 +90,10 @@ EditPanel::~EditPanel()
 
 void EditPanel::prepareCombo()
 {
-    const QString names[PANEL_TYPES] = {tr("Sconosciuto"),  tr("Monocristallino"),
+    const QString names[PANEL_TYPES] = {tr("Sconosciuto"),     tr("Monocristallino"),
                                         tr("Policristallino"), tr("Film Sottile"),
-                                        tr("Amorfo"),       tr("MicroMorfo")};
-    for (int type = 0; type < PANEL_TYPES; type++) {
-        _typeMap.insert(names[type], type);
-        _comboType->addItem(names[type]);
-    }
+                                        tr("Amorfo"),          tr("MicroMorfo")};
+    fillTypeCombo(_comboType, &_typeMap, names);
 }
 
 void EditPanel::insertBrandOnCombo()
@@ -211,23 +179,10 @@ void EditPanel::selectPanelType()
     showFormNumber(_number[KVOC]);
 }
 
-bool EditPanel::eventFilter(QObject* obj, QEvent* event)
-{
-    if (event->type() == QEvent::MouseButtonPress) {
-        for (const FormNumber& f : _number) {
-            if (obj == f.edit) {
-                editLineObject(obj);
-                return true;
-            }
-        }
-    }
-    return QDialog::eventFilter(obj, event);
-}
-
 void EditPanel::editLineObject(QObject* obj)
 {
-    QMessageBox* box = newMessageBox(this, QMessageBox::Information, QString(),
-                                     tr("Testo inserito non valido."));
+    QMessageBox* box =
+        newMessageBox(this, QMessageBox::Information, QString(), tr("Testo inserito non valido."));
     for (const FormNumber& field : _number)
         if (obj == field.edit)
             enterFormNumber(this, box, field);
@@ -247,38 +202,16 @@ void EditPanel::savePanelEdited()
 
 QList<QWidget*> EditPanel::focusChain() const
 {
-    QList<QWidget*> chain{_comboBrand, _comboModel};
-    for (int i = PMAX; i <= ISC; i++)
-        chain << _number[i].edit;
-    chain << _comboType;
-    for (int i = KISC; i <= TOLLP; i++)
-        chain << _number[i].edit;
-    chain << _buttonSave << _buttonReset << _buttonExit;
-    return chain;
+    return featureChain({_comboBrand, _comboModel}, _number, _comboType,
+                        {_buttonSave, _buttonReset, _buttonExit});
 }
 
-void EditPanel::keyPressEvent(QKeyEvent* event)
+void EditPanel::returnOn(QWidget* focused)
 {
-    switch (event->key()) {
-    case Qt::Key_Down:
-        walkFocus(focusChain(), true);
-        break;
-    case Qt::Key_Up:
-        walkFocus(focusChain(), false);
-        break;
-    case Qt::Key_Return:
-        if (_buttonSave->hasFocus())
-            savePanelEdited();
-        else if (_buttonReset->hasFocus())
-            modelReloaded();
-        else if (_buttonExit->hasFocus())
-            reject();
-        break;
-    case Qt::Key_Escape:
+    if (focused == _buttonSave)
+        savePanelEdited();
+    else if (focused == _buttonReset)
+        modelReloaded();
+    else if (focused == _buttonExit)
         reject();
-        break;
-    default:
-        break;
-    }
-    QWidget::keyPressEvent(event);
 }

@@ -2,19 +2,18 @@
 #define KRM_ARCHIVE_EDITPANEL_H
 
 #include "archive/archiveform.h"
+#include "archive/formdialog.h"
 #include "data/coredata.h"
 
-#include <QDialog>
 #include <QMap>
 
-class InfoBar;
 class QComboBox;
 class QLineEdit;
 class QPushButton;
 
 // Changes the data sheet of a model chosen with the brand and model combos;
 // the file is written in place.
-class EditPanel : public QDialog
+class EditPanel : public FormDialog
 {
     Q_OBJECT
 public:
@@ -25,15 +24,15 @@ public:
 
 public slots:
     void selectPanelType();
-    void editLineObject(QObject* obj);
+    void editLineObject(QObject* obj) override;
     void savePanelEdited();
     void selectBrandOnCombo();
     void selectModelOnCombo();
     void modelReloaded();
 
 protected:
-    bool eventFilter(QObject* obj, QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
+    QList<QWidget*> focusChain() const override;
+    void returnOn(QWidget* focused) override;
 
 private:
     void prepareCombo();
@@ -42,7 +41,6 @@ private:
     void resetFeature(_panelFeature* feature);
     void resetCursorPosition();
     void takeNames(_listBrand* brand, _listModel* model);
-    QList<QWidget*> focusChain() const;
 
     _listBrand* _brandHead;
     _listModel* _modelHead;
@@ -50,7 +48,6 @@ private:
     FormNumber _number[NUMBERS];
     QMap<QString, int> _typeMap;
 
-    InfoBar* _infoBar;
     QComboBox* _comboBrand;
     QComboBox* _comboModel;
     QComboBox* _comboType;

@@ -27,18 +27,14 @@ static void freePanelStrings(_panel* panel)
 }
 
 EditSelectedPanel::EditSelectedPanel(QWidget* parent, char* brandDir, char* modelFile)
-    : QDialog(parent)
+    : FormDialog(parent, "EditSelectedPanel", tr("Modifica Modulo"), 24)
 {
-    setObjectName("EditSelectedPanel");
-    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
     memset(&_record, 0, sizeof _record);
     memset(&_panelReference, 0, sizeof _panelReference);
     getPanel(&_record, brandDir, modelFile);
-    _infoBar = new InfoBar(this);
-    _infoBar->setTitle(tr("Modifica Modulo"));
-    setFormFont(this, _infoBar, 24);
 
     _panelFeature& f = _record.feature;
+    // clang-format off
     _number[PMAX] = {new QLineEdit, &f.pmax, 1, 1000, 1, tr("Pmax"), tr("Pmax"), tr("Pmax : ")};
     _number[NOCT] = {new QLineEdit, &f.noct, 0, 100, 1,
                      tr("Temperatura Nominale della Cella - NOCT [°C]"), tr("NOCT [°C]"),
@@ -63,48 +59,20 @@ EditSelectedPanel::EditSelectedPanel(QWidget* parent, char* brandDir, char* mode
     const QString label[NUMBERS] = {tr("Pmax"),  tr("NOCT"), tr("Vmpp"),  tr("Impp"),
                                     tr("Voc"),   tr("Isc"),  tr("Alpha"), tr("Beta"),
                                     tr("Gamma"), tr("Toll-"), tr("Toll+")};
-    const QString unit[NUMBERS] = {"W", "°C", "V", "A", "V", "A", "%/°C", "%/°C", "%/°C", "%", "%"};
-    const char* name[NUMBERS] = {"pmax", "noct", "vmpp", "impp", "voc", "isc",
-                                 "kisc", "kvoc", "kpmax", "tollm", "tollp"};
+    // clang-format on
 
     QGridLayout* grid = new QGridLayout;
     _labelBrand = new QLabel;
     _labelBrand->setObjectName("brand");
     grid->addWidget(new QLabel(tr("Marca")), 0, 0);
     grid->addWidget(_labelBrand, 0, 1, 1, 2);
-    _editModel = new QLineEdit;
-    _editModel->setObjectName("model");
-    setLineEditWidth(_editModel, 260);
-    createLineEdit(grid, _editModel, tr("Modello"), QString(), 0, 3);
-    _editModel->installEventFilter(this);
-    for (int i = 0; i < NUMBERS; i++) {
-        _number[i].edit->setObjectName(name[i]);
-        setLineEditWidth(_number[i].edit, 120);
-        int row = i < KISC ? 1 + i : 2 + i - KISC;
-        createLineEdit(grid, _number[i].edit, label[i], unit[i], row, i < KISC ? 0 : 3);
-        _number[i].edit->installEventFilter(this);
-    }
+    _editModel = formLine(grid, "model", tr("Modello"), QString(), 0, 3, 260);
     _comboType = new QComboBox;
-    _comboType->setObjectName("type");
-    grid->addWidget(new QLabel(tr("Tipo")), 1, 3);
-    grid->addWidget(_comboType, 1, 4, 1, 2);
+    placeFeatureNumbers(this, grid, _number, label, _comboType, tr("Tipo"));
 
-    _buttonSave = new QPushButton(QIcon(":/icon/save.png"), tr("Salva"));
-    _buttonSave->setObjectName("Salva");
-    _buttonReset = new QPushButton(QIcon(":/icon/view-refresh.png"), tr("Reset"));
-    _buttonReset->setObjectName("Reset");
-    _buttonExit = new QPushButton(QIcon(":/icon/exit.png"), tr("Exit"));
-    _buttonExit->setObjectName("Exit");
-    QHBoxLayout* buttons = new QHBoxLayout;
-    buttons->addWidget(_buttonSave);
-    buttons->addWidget(_buttonReset);
-    buttons->addWidget(_buttonExit);
-
-    QVBoxLayout* box = new QVBoxLayout(this);
-    box->addWidget(_infoBar);
-    box->addLayout(grid);
-    box->addStretch();
-    box->addLayout(buttons);
+    _buttonSave = formButton(":/icon/save.png", tr("Salva"), "Salva");
+    _buttonReset = formButton(":/icon/view-refresh.png", tr("Reset"), "Reset");
+    _buttonExit = formButton(":/icon/exit.png", tr("Exit"), "Exit");
 
     prepareCombo();
     viewFeaturePanel();
@@ -113,9 +81,7 @@ EditSelectedPanel::EditSelectedPanel(QWidget* parent, char* brandDir, char* mode
     connect(_buttonSave, &QPushButton::clicked, this, &EditSelectedPanel::savePanelEdited);
     connect(_buttonReset, &QPushButton::clicked, this, &EditSelectedPanel::modelReloaded);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
-    // modal from the first show: exec() on a shown window would not make it so
-    setModal(true);
-    showMaximized();
+    showForm(grid, {_buttonSave, _buttonReset, _buttonExit});
 }
 
 EditSelectedPanel::~EditSelectedPanel()
@@ -126,13 +92,10 @@ EditSelectedPanel::~EditSelectedPanel()
 
 void EditSelectedPanel::prepareCombo()
 {
-    const QString names[PANEL_TYPES] = {tr("Sconosciuto"),  tr("Monocristallino"),
+    const QString names[PANEL_TYPES] = {tr("Sconosciuto"),     tr("Monocristallino"),
                                         tr("Policristallino"), tr("Film Sottile"),
-                                        tr("Amorfo"),       tr("MicroMorfo")};
-    for (int type = 0; type < PANEL_TYPES; type++) {
-        _typeMap.insert(names[type], type);
-        _comboType->addItem(names[type]);
-    }
+                                        tr("Amorfo"),          tr("MicroMorfo")};
+    fillTypeCombo(_comboType, &_typeMap, names);
 }
 
 void EditSelectedPanel::viewFeaturePanel()
@@ -172,29 +135,15 @@ void EditSelectedPanel::selectPanelType()
     _buttonSave->setEnabled(true);
 }
 
-bool EditSelectedPanel::eventFilter(QObject* obj, QEvent* event)
-{
-    if (event->type() == QEvent::MouseButtonPress) {
-        bool field = obj == _editModel;
-        for (const FormNumber& f : _number)
-            field = field || obj == f.edit;
-        if (field) {
-            editLineObject(obj);
-            return true;
-        }
-    }
-    return QDialog::eventFilter(obj, event);
-}
-
 void EditSelectedPanel::editLineObject(QObject* obj)
 {
-    QMessageBox* box = newMessageBox(this, QMessageBox::Information, QString(),
-                                     tr("Testo inserito non valido."));
+    QMessageBox* box =
+        newMessageBox(this, QMessageBox::Information, QString(), tr("Testo inserito non valido."));
     FormRound round = ROUND_LEFT;
     if (obj == _editModel)
-        round = enterFormText(this, box, _editModel, _editModel->text(),
-                              tr("Modifica Modello Modulo"), tr("Modello Modulo"),
-                              tr("Modello vuoto."), tr("Troppo lungo."));
+        round =
+            enterFormText(this, box, _editModel, _editModel->text(), tr("Modifica Modello Modulo"),
+                          tr("Modello Modulo"), tr("Modello vuoto."), tr("Troppo lungo."));
     for (const FormNumber& field : _number)
         if (obj == field.edit)
             round = enterFormNumber(this, box, field);
@@ -206,7 +155,8 @@ void EditSelectedPanel::editLineObject(QObject* obj)
 void EditSelectedPanel::savePanelEdited()
 {
     QByteArray model = textToStore(_editModel->text());
-    char* grown = static_cast<char*>(realloc(_record.modelName, static_cast<size_t>(model.size()) + 1));
+    char* grown =
+        static_cast<char*>(realloc(_record.modelName, static_cast<size_t>(model.size()) + 1));
     if (grown != nullptr) {
         memcpy(grown, model.constData(), static_cast<size_t>(model.size()) + 1);
         _record.modelName = grown;
@@ -222,40 +172,18 @@ void EditSelectedPanel::savePanelEdited()
 
 QList<QWidget*> EditSelectedPanel::focusChain() const
 {
-    QList<QWidget*> chain{_editModel};
-    for (int i = PMAX; i <= ISC; i++)
-        chain << _number[i].edit;
-    chain << _comboType;
-    for (int i = KISC; i <= TOLLP; i++)
-        chain << _number[i].edit;
-    chain << _buttonSave << _buttonReset << _buttonExit;
-    return chain;
+    return featureChain({_editModel}, _number, _comboType,
+                        {_buttonSave, _buttonReset, _buttonExit});
 }
 
-void EditSelectedPanel::keyPressEvent(QKeyEvent* event)
+void EditSelectedPanel::returnOn(QWidget* focused)
 {
-    switch (event->key()) {
-    case Qt::Key_Down:
-        walkFocus(focusChain(), true);
-        break;
-    case Qt::Key_Up:
-        walkFocus(focusChain(), false);
-        break;
-    case Qt::Key_Return:
-        if (_editModel->hasFocus())
-            editLineObject(_editModel);
-        else if (_buttonSave->hasFocus())
-            savePanelEdited();
-        else if (_buttonReset->hasFocus())
-            modelReloaded();
-        else if (_buttonExit->hasFocus())
-            reject();
-        break;
-    case Qt::Key_Escape:
+    if (focused == _editModel)
+        editLineObject(_editModel);
+    else if (focused == _buttonSave)
+        savePanelEdited();
+    else if (focused == _buttonReset)
+        modelReloaded();
+    else if (focused == _buttonExit)
         reject();
-        break;
-    default:
-        break;
-    }
-    QWidget::keyPressEvent(event);
 }

@@ -2,12 +2,11 @@
 #define KRM_ARCHIVE_EDITSELPANEL_H
 
 #include "archive/archiveform.h"
+#include "archive/formdialog.h"
 #include "data/coredata.h"
 
-#include <QDialog>
 #include <QMap>
 
-class InfoBar;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -15,7 +14,7 @@ class QPushButton;
 
 // Changes the data sheet of one model named by the caller (the reference
 // module choice): brand and file stay, the model's name may change.
-class EditSelectedPanel : public QDialog
+class EditSelectedPanel : public FormDialog
 {
     Q_OBJECT
 public:
@@ -29,25 +28,23 @@ public:
 
 public slots:
     void selectPanelType();
-    void editLineObject(QObject* obj);
+    void editLineObject(QObject* obj) override;
     void savePanelEdited();
     void modelReloaded();
 
 protected:
-    bool eventFilter(QObject* obj, QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
+    QList<QWidget*> focusChain() const override;
+    void returnOn(QWidget* focused) override;
 
 private:
     void prepareCombo();
     void viewFeaturePanel();
     void resetCursorPosition();
-    QList<QWidget*> focusChain() const;
 
     _panel _record;
     FormNumber _number[NUMBERS];
     QMap<QString, int> _typeMap;
 
-    InfoBar* _infoBar;
     QLabel* _labelBrand;
     QLineEdit* _editModel;
     QComboBox* _comboType;

@@ -2,6 +2,7 @@
 
 #include "archive/archiveform.h"
 #include "data/datapanel.h"
+#include "data/recordfiles.h"
 #include "data/storedtext.h"
 #include "toolkit/embkeyboard.h"
 #include "toolkit/infobar.h"

@@ -18,16 +18,12 @@
 #include <cstring>
 #include <limits>
 
-NewPanel::NewPanel(QWidget* parent, _listBrand* brandList) : QDialog(parent), _brandHead(brandList)
+NewPanel::NewPanel(QWidget* parent, _listBrand* brandList)
+    : FormDialog(parent, "NewPanel", tr("Nuovo Modulo"), 24), _brandHead(brandList)
 {
-    setObjectName("NewPanel");
-    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
-    _infoBar = new InfoBar(this);
-    _infoBar->setTitle(tr("Nuovo Modulo"));
-    setFormFont(this, _infoBar, 24);
-
     const float none = std::numeric_limits<float>::max();
     // Voc has no upper bound and Toll- may be negative here, on purpose.
+    // clang-format off
     _number[PMAX] = {new QLineEdit, &_feature.pmax, 1, 1000, 1, tr("Pmax"), tr("Pmax"), tr("Pmax : ")};
     _number[NOCT] = {new QLineEdit, &_feature.noct, 0, 100, 1,
                      tr("Temperatura Nominale della Cella - NOCT [°C]"), tr("NOCT [°C]"),
@@ -52,46 +48,19 @@ NewPanel::NewPanel(QWidget* parent, _listBrand* brandList) : QDialog(parent), _b
     const QString label[NUMBERS] = {tr("Pmax"),  tr("NOCT"), tr("Vmpp"),  tr("Impp"),
                                     tr("Voc"),   tr("Isc"),  tr("Alpha"), tr("Beta"),
                                     tr("Gamma"), tr("Toll-"), tr("Toll+")};
-    const QString unit[NUMBERS] = {"W", "°C", "V", "A", "V", "A", "%/°C", "%/°C", "%/°C", "%", "%"};
-    const char* name[NUMBERS] = {"pmax", "noct", "vmpp", "impp", "voc", "isc",
-                                 "kisc", "kvoc", "kpmax", "tollm", "tollp"};
+    // clang-format on
 
     QGridLayout* grid = new QGridLayout;
     _comboBrand = new QComboBox;
     _comboBrand->setObjectName("brand");
     grid->addWidget(new QLabel(tr("Marca")), 0, 0);
     grid->addWidget(_comboBrand, 0, 1, 1, 2);
-    _editModel = new QLineEdit;
-    _editModel->setObjectName("model");
-    setLineEditWidth(_editModel, 260);
-    createLineEdit(grid, _editModel, tr("Modello"), QString(), 0, 3);
-    for (int i = 0; i < NUMBERS; i++) {
-        _number[i].edit->setObjectName(name[i]);
-        setLineEditWidth(_number[i].edit, 120);
-        // the left column holds six rows, the right one the type and five more
-        int row = i < KISC ? 1 + i : 2 + i - KISC;
-        createLineEdit(grid, _number[i].edit, label[i], unit[i], row, i < KISC ? 0 : 3);
-        _number[i].edit->installEventFilter(this);
-    }
-    _editModel->installEventFilter(this);
+    _editModel = formLine(grid, "model", tr("Modello"), QString(), 0, 3, 260);
     _comboType = new QComboBox;
-    _comboType->setObjectName("type");
-    grid->addWidget(new QLabel(tr("Tipo")), 1, 3);
-    grid->addWidget(_comboType, 1, 4, 1, 2);
+    placeFeatureNumbers(this, grid, _number, label, _comboType, tr("Tipo"));
 
-    _buttonSave = new QPushButton(QIcon(":/icon/save.png"), tr("Salva"));
-    _buttonSave->setObjectName("Salva");
-    _buttonExit = new QPushButton(QIcon(":/icon/exit.png"), tr("Exit"));
-    _buttonExit->setObjectName("Exit");
-    QHBoxLayout* buttons = new QHBoxLayout;
-    buttons->addWidget(_buttonSave);
-    buttons->addWidget(_buttonExit);
-
-    QVBoxLayout* box = new QVBoxLayout(this);
-    box->addWidget(_infoBar);
-    box->addLayout(grid);
-    box->addStretch();
-    box->addLayout(buttons);
+    _buttonSave = formButton(":/icon/save.png", tr("Salva"), "Salva");
+    _buttonExit = formButton(":/icon/exit.png", tr("Exit"), "Exit");
 
     prepareCombo();
     insertBrandOnCombo();
@@ -102,22 +71,17 @@ NewPanel::NewPanel(QWidget* parent, _listBrand* brandList) : QDialog(parent), _b
     connect(_comboType, &QComboBox::currentIndexChanged, this, &NewPanel::selectPanelType);
     connect(_buttonSave, &QPushButton::clicked, this, &NewPanel::savePanel);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
-    // modal from the first show: exec() on a shown window would not make it so
-    setModal(true);
-    showMaximized();
+    showForm(grid, {_buttonSave, _buttonExit});
 }
 
 NewPanel::~NewPanel() = default;
 
 void NewPanel::prepareCombo()
 {
-    const QString names[PANEL_TYPES] = {tr("Sconosciuto"),  tr("Monocristallino"),
+    const QString names[PANEL_TYPES] = {tr("Sconosciuto"),     tr("Monocristallino"),
                                         tr("Policristallino"), tr("Film Sottile"),
-                                        tr("Amorfo"),       tr("MicroMorfo")};
-    for (int type = 0; type < PANEL_TYPES; type++) {
-        _typeMap.insert(names[type], type);
-        _comboType->addItem(names[type]);
-    }
+                                        tr("Amorfo"),          tr("MicroMorfo")};
+    fillTypeCombo(_comboType, &_typeMap, names);
 }
 
 void NewPanel::insertBrandOnCombo()
@@ -170,28 +134,14 @@ void NewPanel::selectPanelType()
     _entered[KVOC] = true;
 }
 
-bool NewPanel::eventFilter(QObject* obj, QEvent* event)
-{
-    if (event->type() == QEvent::MouseButtonPress) {
-        bool field = obj == _editModel;
-        for (const FormNumber& f : _number)
-            field = field || obj == f.edit;
-        if (field) {
-            editLineObject(obj);
-            return true;
-        }
-    }
-    return QDialog::eventFilter(obj, event);
-}
-
 void NewPanel::editLineObject(QObject* obj)
 {
-    QMessageBox* box = newMessageBox(this, QMessageBox::Information, QString(),
-                                     tr("Testo inserito non valido."));
+    QMessageBox* box =
+        newMessageBox(this, QMessageBox::Information, QString(), tr("Testo inserito non valido."));
     if (obj == _editModel) {
-        FormRound round = enterFormText(this, box, _editModel, _editModel->text(),
-                                        tr("Modifica Modello Modulo"), tr("Modello Modulo"),
-                                        tr("Modello vuoto."), tr("Troppo lungo."));
+        FormRound round =
+            enterFormText(this, box, _editModel, _editModel->text(), tr("Modifica Modello Modulo"),
+                          tr("Modello Modulo"), tr("Modello vuoto."), tr("Troppo lungo."));
         if (round == ROUND_ACCEPTED) {
             _modelName = _editModel->text();
             _enteredModel = true;
@@ -250,38 +200,15 @@ void NewPanel::savePanel()
 
 QList<QWidget*> NewPanel::focusChain() const
 {
-    QList<QWidget*> chain{_comboBrand, _editModel};
-    for (int i = PMAX; i <= ISC; i++)
-        chain << _number[i].edit;
-    chain << _comboType;
-    for (int i = KISC; i <= TOLLP; i++)
-        chain << _number[i].edit;
-    chain << _buttonSave << _buttonExit;
-    return chain;
+    return featureChain({_comboBrand, _editModel}, _number, _comboType, {_buttonSave, _buttonExit});
 }
 
-void NewPanel::keyPressEvent(QKeyEvent* event)
+void NewPanel::returnOn(QWidget* focused)
 {
-    switch (event->key()) {
-    case Qt::Key_Down:
-        walkFocus(focusChain(), true);
-        break;
-    case Qt::Key_Up:
-        walkFocus(focusChain(), false);
-        break;
-    case Qt::Key_Return:
-        if (_editModel->hasFocus())
-            editLineObject(_editModel);
-        else if (_buttonSave->hasFocus())
-            savePanel();
-        else if (_buttonExit->hasFocus())
-            reject();
-        break;
-    case Qt::Key_Escape:
+    if (focused == _editModel)
+        editLineObject(_editModel);
+    else if (focused == _buttonSave)
+        savePanel();
+    else if (focused == _buttonExit)
         reject();
-        break;
-    default:
-        break;
-    }
-    QWidget::keyPressEvent(event);
 }

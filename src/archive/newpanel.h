@@ -2,12 +2,11 @@
 #define KRM_ARCHIVE_NEWPANEL_H
 
 #include "archive/archiveform.h"
+#include "archive/formdialog.h"
 #include "data/coredata.h"
 
-#include <QDialog>
 #include <QMap>
 
-class InfoBar;
 class QComboBox;
 class QLineEdit;
 class QPushButton;
@@ -15,7 +14,7 @@ class QPushButton;
 // Enters the data sheet of a new module model into a brand of the archive.
 // The form keeps what it holds after a save, so that a like model is entered
 // by changing a few fields; a name already in the brand is overwritten.
-class NewPanel : public QDialog
+class NewPanel : public FormDialog
 {
     Q_OBJECT
 public:
@@ -33,12 +32,12 @@ public:
 
 public slots:
     void selectPanelType();
-    void editLineObject(QObject* obj);
+    void editLineObject(QObject* obj) override;
     void savePanel();
 
 protected:
-    bool eventFilter(QObject* obj, QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
+    QList<QWidget*> focusChain() const override;
+    void returnOn(QWidget* focused) override;
 
 private:
     void prepareCombo();
@@ -46,7 +45,6 @@ private:
     void resetFeature();
     void resetLineEdit();
     void updateSaveButton();
-    QList<QWidget*> focusChain() const;
 
     _panelFeature _feature;
     FormNumber _number[NUMBERS];
@@ -56,7 +54,6 @@ private:
     QString _modelName;
     QMap<QString, int> _typeMap;
 
-    InfoBar* _infoBar;
     QComboBox* _comboBrand;
     QLineEdit* _editModel;
     QComboBox* _comboType;

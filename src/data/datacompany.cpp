@@ -2,71 +2,12 @@
 
 #include "data/datapanel.h"
 #include "data/direntry.h"
+#include "data/recordfiles.h"
 #include "data/workdir.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-
-char* newRecordFileName(const char* dataDir, const char* keyText, char* target)
-{
-    if (keyText == nullptr || target == nullptr)
-        return nullptr;
-    WorkDir wd;
-    if (!wd.enter(dataDir))
-        return nullptr;
-    char name[COMPANY_NAME_SIZE];
-    snprintf(name, sizeof name, "%s", keyText);
-    strlower(name);
-    strunderline(name, nullptr);
-    // no alternative name is tried
-    if (existFile(name) != 0)
-        return nullptr;
-    strcpy(target, name);
-    return target;
-}
-
-// Whether a lowered line holds one of the keys anywhere, also inside a value.
-static bool holdsKey(const char* line, const char* const* keys)
-{
-    for (; *keys != nullptr; keys++)
-        if (strstr(line, *keys) != nullptr)
-            return true;
-    return false;
-}
-
-int updateRecordFile(const char* dataDir, const char* file, WriteRecord write, const void* record,
-                     const char* const* keys)
-{
-    if (file == nullptr || record == nullptr)
-        return -4;
-    WorkDir wd;
-    if (!wd.enter(dataDir))
-        return -3;
-    char temporary[COMPANY_NAME_SIZE + 8];
-    snprintf(temporary, sizeof temporary, "%s.$$$", file);
-    FILE* old = fopen(file, "r");
-    if (old == nullptr)
-        return -2;
-    FILE* f = fopen(temporary, "w");
-    if (f == nullptr) {
-        fclose(old);
-        return -1;
-    }
-
-    write(f, record);
-    char line[TAG_LINE_SIZE];
-    while (readTagLine(old, line)) {
-        strlower(line);
-        if (!holdsKey(line, keys))
-            fputs(line, f);
-    }
-    fflush(f);
-    fclose(f);
-    fclose(old);
-    myUnlink(file);
-    return rename(temporary, file);
-}
 
 // ---- Company
 
@@ -124,6 +65,16 @@ int updateDataCompany(const char* file, _company* company)
     if (company != nullptr)
         company->curInst = company->headInst;
     return result;
+}
+
+int deleteDataCompany(const char* file)
+{
+    if (file == nullptr)
+        return -4;
+    WorkDir wd;
+    if (!wd.enter(DIR_DATA_COMPANY))
+        return -2;
+    return myUnlink(file);
 }
 
 _company* readCompanyFromFile(const char* file)
@@ -247,7 +198,7 @@ _listCompany* readListCompany(QWidget* parent)
 
 _listFileInstallation* addItemOnListInstallation(_listFileInstallation* list, const char* file)
 {
-    return addFileNode(list, file);
+    return addFileNameNode(list, file);
 }
 
 _listCompany* closeListCompany(_listCompany* list)
@@ -266,5 +217,5 @@ _listCompany* closeListCompany(_listCompany* list)
 
 _listFileInstallation* closeListFileInstallation(_listFileInstallation* list)
 {
-    return closeFileList(list);
+    return closeFileNameList(list);
 }

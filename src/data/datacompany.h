@@ -3,9 +3,6 @@
 
 #include "data/coredata.h"
 
-#include <cstdlib>
-#include <cstring>
-
 class QWidget;
 
 // Companies: one tag file each under /krm510data/datacompany, named after the
@@ -22,6 +19,9 @@ int saveDataCompany(_company* company);
 // -4 no file or record; -3 directory; -2 old file; -1 temporary file.
 int updateDataCompany(const char* file, _company* company);
 _company* readCompanyFromFile(const char* file);
+// Deletes a company's file; its installations' files stay. The result of the
+// unlink, -2 when the directory can't be entered.
+int deleteDataCompany(const char* file);
 _company* freeCompany(_company* company);
 _listCompany* readListCompany(QWidget* parent);
 _listCompany* addCompanyNode(_listCompany* list, const char* file);
@@ -31,37 +31,5 @@ int getSurnameCodeCompany(const char* file, _listCompany* node);
 _listFileInstallation* addItemOnListInstallation(_listFileInstallation* list, const char* file);
 _listCompany* closeListCompany(_listCompany* list);
 _listFileInstallation* closeListFileInstallation(_listFileInstallation* list);
-
-// Shared by the company and installation files.
-// The lowered, underlined key text as a file name; null when it exists already.
-char* newRecordFileName(const char* dataDir, const char* keyText, char* target);
-// Writes the record's lines into "<file>.$$$", then carries along every old
-// line that holds none of the keys, and puts the new file in the old one's place.
-typedef int (*WriteRecord)(FILE* stream, const void* record);
-int updateRecordFile(const char* dataDir, const char* file, WriteRecord write, const void* record,
-                     const char* const* keys);
-
-// The lists of file names (installations of a company, measures of an
-// installation): a new node in front, and the whole list freed.
-template <class Node> Node* addFileNode(Node* list, const char* file)
-{
-    Node* node = static_cast<Node*>(calloc(1, sizeof(Node)));
-    if (node == nullptr)
-        return list;
-    node->file = file != nullptr ? strdup(file) : nullptr;
-    node->next = list;
-    return node;
-}
-
-template <class Node> Node* closeFileList(Node* list)
-{
-    while (list != nullptr) {
-        Node* next = list->next;
-        free(list->file);
-        free(list);
-        list = next;
-    }
-    return nullptr;
-}
 
 #endif

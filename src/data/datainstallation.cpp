@@ -3,6 +3,7 @@
 #include "data/datacompany.h"
 #include "data/datapanel.h"
 #include "data/direntry.h"
+#include "data/recordfiles.h"
 #include "data/workdir.h"
 
 #include <cstdio>
@@ -69,6 +70,16 @@ int updateDataInstallation(const char* file, _installation* in)
     if (in != nullptr)
         rewindInstallation(in);
     return result;
+}
+
+int deleteDataInstallation(const char* file)
+{
+    if (file == nullptr)
+        return -4;
+    WorkDir wd;
+    if (!wd.enter(DIR_DATA_INSTALLATION))
+        return -2;
+    return myUnlink(file);
 }
 
 _installation* readInstallationFromFile(const char* file)
@@ -233,12 +244,12 @@ _listInstallation* readListInstallation(QWidget* parent)
 
 _listFileMeaPanel* addItemOnListFileMeaPanel(_listFileMeaPanel* list, const char* file)
 {
-    return addFileNode(list, file);
+    return addFileNameNode(list, file);
 }
 
 _listFileMeaString* addItemOnListFileMeaString(_listFileMeaString* list, const char* file)
 {
-    return addFileNode(list, file);
+    return addFileNameNode(list, file);
 }
 
 _listInstallation* closeListInstallation(_listInstallation* list)
@@ -257,10 +268,10 @@ _listInstallation* closeListInstallation(_listInstallation* list)
 
 _listFileMeaPanel* closeListFileMeaPanel(_listFileMeaPanel* list)
 {
-    return closeFileList(list);
+    return closeFileNameList(list);
 }
 
 _listFileMeaString* closeListFileMeaString(_listFileMeaString* list)
 {
-    return closeFileList(list);
+    return closeFileNameList(list);
 }

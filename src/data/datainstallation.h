@@ -17,6 +17,9 @@ int saveDataInstallation(_installation* installation);
 // rename; -4 no file or record; -3 directory; -2 old file; -1 temporary file.
 int updateDataInstallation(const char* file, _installation* installation);
 _installation* readInstallationFromFile(const char* file);
+// Deletes an installation's file; its measures and the companies naming it
+// stay. The result of the unlink, -2 when the directory can't be entered.
+int deleteDataInstallation(const char* file);
 _installation* freeInstallation(_installation* installation);
 _listInstallation* readListInstallation(QWidget* parent);
 _listInstallation* addInstallationNode(_listInstallation* list, const char* file);

@@ -2,6 +2,7 @@
 
 #include "data/datapanel.h"
 #include "data/direntry.h"
+#include "data/recordfiles.h"
 #include "data/workdir.h"
 #include "platform/systemroot.h"
 

@@ -1,6 +1,7 @@
 #include "data/datapanel.h"
 
 #include "data/direntry.h"
+#include "data/recordfiles.h"
 #include "data/workdir.h"
 #include "platform/systemroot.h"
 
@@ -20,42 +21,6 @@
 #define DIR_NAME_LIMIT 63
 // Longest file name the numbered fall-back candidates may have.
 #define FILE_NAME_LIMIT 254
-
-bool walkDataDir(QWidget* parent, const char* label, const char* path, _countFile what,
-                 const std::function<void(const char* name)>& add)
-{
-    QProgressDialog progress(QObject::tr(label), QString(), 0, 100, parent,
-                             Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
-    progress.reset(); // stops the show timer of the constructor (see PanelIV::measurePanel)
-    progress.setMinimumDuration(1500);
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setStyleSheet(READ_PROGRESS_STYLE);
-    progress.setMaximum(countFileDir(path, what));
-    progress.setValue(0);
-    progress.show();
-
-    WorkDir wd;
-    if (!wd.enter(path))
-        return false;
-    DIR* dir = opendir("./");
-    if (dir == nullptr)
-        return false;
-    int count = 0;
-    while (struct dirent* entry = readdir(dir)) {
-        if (strcmp(entry->d_name, ".") == 0 || strcmp(entry->d_name, "..") == 0)
-            continue;
-        struct stat st;
-        if (stat(entry->d_name, &st) != 0)
-            continue;
-        if (what == COUNT_DIRS ? S_ISDIR(st.st_mode) : S_ISREG(st.st_mode))
-            add(entry->d_name);
-        progress.setValue(++count);
-        // the dialog was shown by hand, so setValue alone doesn't keep the screen alive
-        QCoreApplication::processEvents();
-    }
-    closedir(dir);
-    return true;
-}
 
 int chDataPanelDir(char* savedCwd, unsigned size)
 {
@@ -539,4 +504,38 @@ _listModel* closeListModelBrand(_listModel* list)
         list = next;
     }
     return nullptr;
+}
+
+int deleteModelPanel(const char* brandDir, const char* modelFile)
+{
+    if (brandDir == nullptr || modelFile == nullptr)
+        return -4;
+    WorkDir wd;
+    if (!wd.enter(DIR_DATA_PANEL) || chdir(brandDir) != 0)
+        return -2;
+    return myUnlink(modelFile);
+}
+
+int deleteBrandPanel(const char* brandDir, const std::function<void()>& step)
+{
+    if (brandDir == nullptr)
+        return -4;
+    WorkDir wd;
+    if (!wd.enter(DIR_DATA_PANEL) || chdir(brandDir) != 0)
+        return -2;
+    DIR* dir = opendir("./");
+    while (dir != nullptr) {
+        struct dirent* entry = readdir(dir);
+        if (entry == nullptr)
+            break;
+        if (strcmp(entry->d_name, ".") == 0 || strcmp(entry->d_name, "..") == 0)
+            continue;
+        myUnlink(entry->d_name);
+        step();
+    }
+    if (dir != nullptr)
+        closedir(dir);
+    if (chdir("../") != 0)
+        return -2;
+    return myUnlink(brandDir);
 }

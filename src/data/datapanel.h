@@ -50,15 +50,12 @@ _listModel* findModelFile(_listModel* list, const char* file);
 _listBrand* closeListBrandPanel(_listBrand* list);
 _listModel* closeListModelBrand(_listModel* list);
 
-// The list reads of the data files: enters a data directory and hands every
-// entry of the kind asked (regular files or directories) to add, under a
-// window-modal progress dialog with the given label whose bar follows the
-// entries. False when the directory can't be entered or read.
-#define READ_PROGRESS_STYLE                                                                        \
-    "QProgressBar:horizontal {border: 1px solid gray;border-radius: 3px;background: "              \
-    "white;padding: 1px;text-align: center;}QProgressBar::chunk:horizontal {background: "          \
-    "qlineargradient(x1: 0, y1: 0.5, x2: 1, y2: 0.5, stop: 0 blue, stop: 1 white);}"
-bool walkDataDir(QWidget* parent, const char* label, const char* path, _countFile what,
-                 const std::function<void(const char* name)>& add);
+// Deletes the file of one model of a brand; the result of the unlink, -2
+// when the brand's directory can't be entered.
+int deleteModelPanel(const char* brandDir, const char* modelFile);
+// Deletes a whole brand: every entry of its directory, its name file
+// included, then the directory. step is called after each entry. The result
+// of the last unlink, -2 when the brand's directory can't be entered.
+int deleteBrandPanel(const char* brandDir, const std::function<void()>& step);
 
 #endif

@@ -107,7 +107,7 @@ void GpioKeyboard::deliver(int key)
         key = Qt::Key_Tab;
     QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(), false, 1);
     QCoreApplication::sendEvent(this, &press);
-    if (key == Qt::Key_Return && !press.isAccepted()) {
+    if (key == Qt::Key_Return && !press.isAccepted() && !KeyFront::openMenu(this)) {
         QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QString(), false, 1);
         QCoreApplication::sendEvent(this, &space);
     }

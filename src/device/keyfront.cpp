@@ -105,6 +105,22 @@ bool KeyFront::serves(const QWidget* poller)
     return window == nullptr || window == poller->window();
 }
 
+bool KeyFront::openMenu(QWidget* poller)
+{
+    QPushButton* button = qobject_cast<QPushButton*>(poller->window()->focusWidget());
+    if (button == nullptr || button->menu() == nullptr || !button->isEnabled() ||
+        !button->isVisible())
+        return false;
+    QMenu* menu = button->menu();
+    for (QAction* action : menu->actions())
+        if (action->isVisible() && action->isEnabled() && !action->isSeparator()) {
+            menu->popup(button->mapToGlobal(QPoint(0, button->height())), action);
+            menu->setActiveAction(action);
+            return true;
+        }
+    return true; // a menu with nothing to choose: the press does nothing, as on touch
+}
+
 bool KeyFront::take(QWidget* poller, int key, bool plainWalk)
 {
     if (QWidget* popup = QApplication::activePopupWidget()) {
@@ -119,19 +135,6 @@ bool KeyFront::take(QWidget* poller, int key, bool plainWalk)
         if (list == enteredList)
             return walkList(list, key);
         return key == Qt::Key_Return && enterList(list);
-    }
-    // a button with a menu opens it, to be walked as a popup
-    QPushButton* menuButton = qobject_cast<QPushButton*>(focus);
-    if (key == Qt::Key_Return && menuButton != nullptr && menuButton->menu() != nullptr &&
-        menuButton->isEnabled()) {
-        QMenu* menu = menuButton->menu();
-        for (QAction* action : menu->actions())
-            if (action->isVisible() && action->isEnabled() && !action->isSeparator()) {
-                menu->popup(menuButton->mapToGlobal(QPoint(0, menuButton->height())), action);
-                menu->setActiveAction(action);
-                return true;
-            }
-        return false;
     }
     if (QComboBox* combo = qobject_cast<QComboBox*>(focus)) {
         if (key != Qt::Key_Return || combo->count() == 0)

@@ -18,10 +18,13 @@ class QWidget;
 //
 // On every window, a focused list is entered with Return, walked with Up and
 // Down and left with Return, which touches the row it stands on (Escape
-// leaves it as it is); Return on a focused combo opens its list, and on a
-// button with a menu the menu, where Up, Down and Return choose as on the
-// touch screen (Escape closes). The focus then stays on the list, combo or
-// button, in the screen's own chain.
+// leaves it as it is); Return on a focused combo opens its list. Return on a
+// button with a menu goes to the screen first, as every Return does (the
+// measuring screens run their own action on it); when the screen leaves it,
+// the menu opens where the old keyboard pressed the button with a Space,
+// walked as a popup: Up, Down and Return choose as on the touch screen and
+// Escape closes. The focus then stays on the list, combo or button, in the
+// screen's own chain.
 class KeyFront : public QObject
 {
 public:
@@ -33,6 +36,9 @@ public:
     // Serves a key where neither the screen nor the toolkit would: a popup,
     // a list or combo, a field of a dialog with the plain walk. True when done.
     static bool take(QWidget* poller, int key, bool plainWalk);
+    // A Return the screen left: opens the menu of the focused button without
+    // blocking the keys. False when the focus is no button with a menu.
+    static bool openMenu(QWidget* poller);
 
 protected:
     bool eventFilter(QObject* obj, QEvent* event) override;

@@ -1,6 +1,6 @@
 #include "device/uploader.h"
 
-#include "data/datapanel.h"
+#include "data/recordfiles.h"
 #include "device/gpiopd.h"
 #include "device/ulserialport.h"
 #include "platform/clock.h"

@@ -32,7 +32,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QDateTime>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
@@ -40,7 +39,6 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTimer>
-#include <QVBoxLayout>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -101,21 +99,9 @@ PanelIV::PanelIV(QWidget* parent)
     _labelClock->setObjectName("clock");
     _labelClock->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum);
 
-    QHBoxLayout* row = new QHBoxLayout(bar);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(1);
-    row->addWidget(_buttonStart);
-    row->addWidget(_buttonReference);
-    row->addWidget(_buttonMeasures);
-    row->addWidget(_buttonSave);
-    row->addWidget(_buttonExit);
-    row->addStretch();
-    row->addWidget(_labelSupply);
-    row->addWidget(_labelClock);
-    QVBoxLayout* box = new QVBoxLayout(this);
-    box->setContentsMargins(0, 0, 0, 0);
-    box->addWidget(_plotter);
-    box->addWidget(bar);
+    layOutScreen(this, _plotter, bar,
+                 {_buttonStart, _buttonReference, _buttonMeasures, _buttonSave, _buttonExit},
+                 _labelSupply, _labelClock);
 
     _actionRsCalc = new QAction(tr("Calcolo"), this);
     _actionRsCalc->setObjectName("RsCalcolo");
@@ -562,31 +548,14 @@ void PanelIV::getDegrado()
     delete dialog;
 }
 
-void PanelIV::togglePowerCurve(bool stc)
-{
-    bool& own = stc ? _powerStcShown : _powerOpcShown;
-    bool& other = stc ? _powerOpcShown : _powerStcShown;
-    if (own) {
-        _plotter->clearCurve(2);
-        own = false;
-        other = false;
-        return;
-    }
-    const _ramp_iv* source = stc ? &_rampStcSmooth : &_rampSmooth;
-    _plotter->pmaxLabel = stc ? _pmaxStc : _pmax;
-    _plotter->setCurveData(2, powerPoints(source));
-    own = true;
-    other = false;
-}
-
 void PanelIV::displayPowerCurveOPC()
 {
-    togglePowerCurve(false);
+    togglePowerCurve(_plotter, false, &_powerOpcShown, &_powerStcShown, &_rampSmooth, _pmax);
 }
 
 void PanelIV::displayPowerCurveSTC()
 {
-    togglePowerCurve(true);
+    togglePowerCurve(_plotter, true, &_powerOpcShown, &_powerStcShown, &_rampStcSmooth, _pmaxStc);
 }
 
 // ---- Reference module, electrical data, save.

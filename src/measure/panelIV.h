@@ -96,7 +96,6 @@ private:
     void readProbes(int rounds, int first, bool showProgress, class QProgressDialog* progress,
                     class RemoteUnit* unit);
     void drawCurve(int id, const _ramp_iv* axes, const _ramp_iv* curve);
-    void togglePowerCurve(bool stc);
     void failMeasure(QMessageBox* box, _pdError error);
     bool focused(const QWidget* widget) const;
 

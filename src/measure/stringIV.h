@@ -99,7 +99,6 @@ private:
     void readProbes(int rounds, int first, bool showProgress, QProgressDialog* progress,
                     RemoteUnit* unit);
     void drawCurve(int id, const _ramp_iv* axes, const _ramp_iv* curve);
-    void togglePowerCurve(bool stc);
     void failMeasure(QMessageBox* box, _pdError error);
     void runMeasure();
 

@@ -7,9 +7,13 @@
 #include "math/utility.h"
 #include "measure/dialogambiente.h"
 #include "platform/clock.h"
+#include "toolkit/plotter.h"
 
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QVBoxLayout>
 #include <cstring>
 
 QString progressStyle(const char* colour)
@@ -175,4 +179,38 @@ DialogAmbiente* measuredEnvironment(QWidget* parent, const _configParam& config,
     }
     return new DialogAmbiente(parent, false, mode, LINK_LOCAL, shown, irradiance, 0, 0,
                               referenceChosen);
+}
+
+void togglePowerCurve(Plotter* plotter, bool stc, bool* opcShown, bool* stcShown,
+                      const _ramp_iv* curve, float pmax)
+{
+    bool* own = stc ? stcShown : opcShown;
+    bool* other = stc ? opcShown : stcShown;
+    *other = false;
+    if (*own) {
+        plotter->clearCurve(2);
+        *own = false;
+        return;
+    }
+    plotter->pmaxLabel = pmax;
+    plotter->setCurveData(2, powerPoints(curve));
+    *own = true;
+}
+
+void layOutScreen(QWidget* screen, Plotter* plotter, QWidget* bar,
+                  const QList<QPushButton*>& buttons, QLabel* supply, QLabel* clock)
+{
+    QHBoxLayout* row = new QHBoxLayout(bar);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(1);
+    for (QPushButton* button : buttons)
+        if (button != nullptr)
+            row->addWidget(button);
+    row->addStretch();
+    row->addWidget(supply);
+    row->addWidget(clock);
+    QVBoxLayout* box = new QVBoxLayout(screen);
+    box->setContentsMargins(0, 0, 0, 0);
+    box->addWidget(plotter);
+    box->addWidget(bar);
 }

@@ -8,6 +8,8 @@
 #include <QVector>
 
 class DialogAmbiente;
+class Plotter;
+class QLabel;
 class QProgressDialog;
 class QPushButton;
 class QWidget;
@@ -27,6 +29,12 @@ const char* supplyPicture(bool adapter, int level);
 
 // A button of the screen's bottom bar.
 QPushButton* barButton(const QString& text, const char* name, bool flat);
+
+// The screen's layout: the plot over the bar; on the bar from the left the
+// buttons (null ones left out), a stretch, the supply and the clock, with no
+// margins and one pixel between them.
+void layOutScreen(QWidget* screen, Plotter* plotter, QWidget* bar,
+                  const QList<QPushButton*>& buttons, QLabel* supply, QLabel* clock);
 
 // A name field of TEXT_COPY_SIZE bytes, zeroed, then filled from source (null leaves it empty).
 void copyName(char* target, const char* source);
@@ -65,6 +73,13 @@ DialogAmbiente* measuredEnvironment(QWidget* parent, const _configParam& config,
 QVector<QPointF> curvePoints(const _ramp_iv* curve);
 // The power curve of a curve, its top at 9.5 on the current axis.
 QVector<QPointF> powerPoints(const _ramp_iv* curve);
+
+// The power curve of "Potenza OPC" (stc false) or "Potenza STC" as a toggle:
+// when it is shown it goes, and then neither counts as shown; else it is
+// drawn from curve as curve 2 with pmax printed beside it, the other no longer
+// counting as shown.
+void togglePowerCurve(Plotter* plotter, bool stc, bool* opcShown, bool* stcShown,
+                      const _ramp_iv* curve, float pmax);
 
 // Up and Down walk the bar's five buttons as a ring; "Salva" is passed over
 // while it is disabled. focus is the screen's focus widget.

@@ -1,5 +1,7 @@
 #include "shell/orvia.h"
 
+#include "archive/archivecompany.h"
+#include "archive/archivemeasures.h"
 #include "archive/archivepanel.h"
 #include "data/datasetting.h"
 #include "debugbrask/dialogbraskdebug.h"
@@ -96,6 +98,8 @@ Orvia::Orvia()
     connect(_buttonPanel, &QPushButton::clicked, this, &Orvia::goToPanelIV);
     connect(_buttonString, &QPushButton::clicked, this, &Orvia::goToStringIV);
     connect(_buttonArchivePanel, &QPushButton::clicked, this, &Orvia::goToArchivePanel);
+    connect(_buttonArchiveCompany, &QPushButton::clicked, this, &Orvia::goToArchiveCompany);
+    connect(_buttonArchiveMeasures, &QPushButton::clicked, this, &Orvia::goToArchiveMeasures);
     connect(_buttonUsb, &QPushButton::clicked, this, &Orvia::goToUsbDialog);
     showMaximized();
 }
@@ -197,6 +201,20 @@ void Orvia::goToArchivePanel()
     delete screen;
 }
 
+void Orvia::goToArchiveCompany()
+{
+    ArchiveCompany* screen = new ArchiveCompany(this);
+    screen->exec();
+    delete screen;
+}
+
+void Orvia::goToArchiveMeasures()
+{
+    ArchiveMeasures* screen = new ArchiveMeasures(this);
+    screen->exec();
+    delete screen;
+}
+
 void Orvia::goToUsbDialog()
 {
     UsbDialog* screen = new UsbDialog(this);
@@ -225,6 +243,10 @@ void Orvia::keyPressEvent(QKeyEvent* event)
             goToStringIV();
         if (_buttonArchivePanel->hasFocus())
             goToArchivePanel();
+        if (_buttonArchiveCompany->hasFocus())
+            goToArchiveCompany();
+        if (_buttonArchiveMeasures->hasFocus())
+            goToArchiveMeasures();
         if (_buttonUsb->hasFocus())
             goToUsbDialog();
         break;

@@ -32,6 +32,8 @@ public slots:
     void goToPanelIV();
     void goToStringIV();
     void goToArchivePanel();
+    void goToArchiveCompany();
+    void goToArchiveMeasures();
     void goToUsbDialog();
     void goToBraskDebug();
 

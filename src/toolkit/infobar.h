@@ -30,6 +30,8 @@ public:
     void chooseDisplayClock(_displayClock mode);
 
     QString clockText() const;
+    // The clock's display mode, as read from the settings or chosen since.
+    _displayClock clockMode() const { return config.tclock; }
     QString title() const;
     bool usb() const { return usbShown; }
 

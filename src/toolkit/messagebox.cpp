@@ -25,3 +25,15 @@ int showMessageBox(QWidget* parent, QMessageBox::Icon icon, const QString& title
     delete box;
     return result;
 }
+
+bool askYesNo(QWidget* parent, const QString& title, const QString& text,
+              const QString& informative)
+{
+    QMessageBox* box = newMessageBox(parent, QMessageBox::Question, title, text);
+    box->setInformativeText(informative);
+    box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box->setDefaultButton(QMessageBox::No);
+    bool yes = box->exec() == QMessageBox::Yes;
+    delete box;
+    return yes;
+}

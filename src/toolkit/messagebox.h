@@ -17,4 +17,8 @@ QMessageBox* newMessageBox(QWidget* parent, QMessageBox::Icon icon, const QStrin
 int showMessageBox(QWidget* parent, QMessageBox::Icon icon, const QString& title,
                    const QString& text, const QString& informative = QString());
 
+// A question with Yes and No, No the default; true on Yes.
+bool askYesNo(QWidget* parent, const QString& title, const QString& text,
+              const QString& informative);
+
 #endif

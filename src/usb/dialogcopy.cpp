@@ -1,6 +1,6 @@
 #include "usb/dialogcopy.h"
 
-#include "data/datapanel.h"
+#include "data/recordfiles.h"
 #include "platform/clock.h"
 #include "platform/command.h"
 #include "platform/systemroot.h"

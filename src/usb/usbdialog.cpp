@@ -1,7 +1,7 @@
 #include "usb/usbdialog.h"
 
-#include "data/datapanel.h"
 #include "data/direntry.h"
+#include "data/recordfiles.h"
 #include "device/gpiopd.h"
 #include "device/uploader.h"
 #include "platform/clock.h"

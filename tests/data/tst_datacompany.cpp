@@ -1,6 +1,7 @@
 #include "data/datacompany.h"
 #include "data/datapanel.h"
 #include "data/direntry.h"
+#include "data/recordfiles.h"
 #include "platform/systemroot.h"
 #include "support/datafiles.h"
 #include "support/testroot.h"
@@ -534,7 +535,10 @@ private slots:
         freeCompany(c);
     }
 
-    void fullDiskDuringUpdateLeavesShortFileInTheOldPlace()
+    // The old instrument wrote the ".$$$" file without looking, deleted the
+    // old file and renamed the short one into its place: a full disk left a
+    // cut record. The old file now stays byte for byte and no ".$$$" is left.
+    void storedDataNeverLost_fullDiskDuringUpdateKeepsTheOldFile()
     {
         TestRoot root;
         directories();
@@ -547,18 +551,73 @@ private slots:
             FileSizeLimit limit(100);
             result = updateDataCompany("rossi___figli", c);
         }
-        // the steps go on to the end: old file deleted, the short one renamed
-        QCOMPARE(result, 0);
+        QCOMPARE(result, -1);
         QVERIFY(!root.exists(DIR_DATA_COMPANY "/rossi___figli.$$$"));
-        QByteArray t = companyText(root, "rossi___figli");
-        QCOMPARE(t.size(), 100);
-        QVERIFY(t.startsWith("surn = Rossi & Figli\nname = Marco\n"));
-        _company* r = readCompanyFromFile("rossi___figli");
-        QCOMPARE(text(r->city), QString("Imola"));
-        QVERIFY(r->headInst == nullptr);
-        QVERIFY(r->email == nullptr);
-        freeCompany(r);
+        QCOMPARE(companyText(root, "rossi___figli"), golden("company_rossi___figli"));
         freeCompany(c);
+    }
+
+    // Every line fits the stream's buffer; the write fails only when it is flushed.
+    void storedDataNeverLost_writeFailingOnlyAtTheFlushKeepsTheOldFile()
+    {
+        TestRoot root;
+        directories();
+        companyFile(root, "rossi___figli", golden("company_rossi___figli"));
+        _company* c = rossi();
+        int result;
+        {
+            FileSizeLimit limit(0);
+            result = updateDataCompany("rossi___figli", c);
+        }
+        QCOMPARE(result, -1);
+        QVERIFY(!root.exists(DIR_DATA_COMPANY "/rossi___figli.$$$"));
+        QCOMPARE(companyText(root, "rossi___figli"), golden("company_rossi___figli"));
+        freeCompany(c);
+    }
+
+    // A street of the 255 characters the form accepts, in UTF-8, stays byte for
+    // byte however often the company is updated.
+    void storedDataNeverLost_longStreetSurvivesTenUpdates()
+    {
+        TestRoot root;
+        directories();
+        companyFile(root, "rossi___figli", golden("company_rossi___figli"));
+        const QByteArray street = QString(255, QChar(0x00e8)).toUtf8();
+        _company* c = rossi();
+        free(c->street);
+        c->street = strdup(street.constData());
+        QCOMPARE(updateDataCompany("rossi___figli", c), 0);
+        freeCompany(c);
+        QByteArray first;
+        for (int i = 0; i < 10; i++) {
+            _company* r = readCompanyFromFile("rossi___figli");
+            QVERIFY(r != nullptr);
+            QCOMPARE(QByteArray(r->street), street);
+            QCOMPARE(updateDataCompany("rossi___figli", r), 0);
+            freeCompany(r);
+            QByteArray t = companyText(root, "rossi___figli");
+            QVERIFY(t.contains("street = " + street + "\n"));
+            // the list lines turn round at every cycle: every second file is the same
+            if (i == 0)
+                first = t;
+            else if (i % 2 == 0)
+                QCOMPARE(t, first);
+        }
+        QStringList left = QDir(root.path(DIR_DATA_COMPANY)).entryList(QDir::Files);
+        QCOMPARE(left, QStringList{"rossi___figli"});
+    }
+
+    // An unknown line longer than any reader's buffer is carried along whole.
+    void storedDataNeverLost_updateCarriesALongUnknownLineWhole()
+    {
+        TestRoot root;
+        directories();
+        const QByteArray note = "remark = " + QByteArray(5000, 'r') + "\n";
+        companyFile(root, "x", "surn = X\n" + note + "version = 2.0.2\n");
+        _company* c = readCompanyFromFile("x");
+        QCOMPARE(updateDataCompany("x", c), 0);
+        freeCompany(c);
+        QVERIFY(companyText(root, "x").contains(note));
     }
 
     void updateSetsCursorToTheHead()

@@ -403,7 +403,9 @@ private slots:
         freeInstallation(in);
     }
 
-    void fullDiskDuringUpdateLeavesShortFileInTheOldPlace()
+    // The old instrument put the cut ".$$$" file in the old one's place when
+    // the disk was full; the old file now stays byte for byte.
+    void storedDataNeverLost_fullDiskDuringUpdateKeepsTheOldFile()
     {
         TestRoot root;
         directories();
@@ -414,17 +416,33 @@ private slots:
             FileSizeLimit limit(63);
             result = updateDataInstallation("capannone_nord", in);
         }
-        QCOMPARE(result, 0);
+        QCOMPARE(result, -1);
         QVERIFY(!root.exists(DIR_DATA_INSTALLATION "/capannone_nord.$$$"));
-        QByteArray t = installationText(root, "capannone_nord");
-        QCOMPARE(t,
-                 QByteArray("id = Capannone Nord\ncity = Castel Maggiore\nzip = 40013\nprov = B"));
-        _installation* r = readInstallationFromFile("capannone_nord");
-        QCOMPARE(text(r->prov), QString("B"));
-        QVERIFY(r->street == nullptr);
-        QVERIFY(r->headMeaPanel == nullptr);
-        freeInstallation(r);
+        QCOMPARE(installationText(root, "capannone_nord"), golden("installation_capannone_nord"));
         freeInstallation(in);
+    }
+
+    void storedDataNeverLost_longStreetSurvivesTenUpdates()
+    {
+        TestRoot root;
+        directories();
+        installationFile(root, "capannone_nord", golden("installation_capannone_nord"));
+        const QByteArray street = QByteArray(255, 'v');
+        _installation* in = capannone();
+        free(in->street);
+        in->street = strdup(street.constData());
+        QCOMPARE(updateDataInstallation("capannone_nord", in), 0);
+        freeInstallation(in);
+        for (int i = 0; i < 10; i++) {
+            _installation* r = readInstallationFromFile("capannone_nord");
+            QVERIFY(r != nullptr);
+            QCOMPARE(QByteArray(r->street), street);
+            QCOMPARE(updateDataInstallation("capannone_nord", r), 0);
+            freeInstallation(r);
+        }
+        QVERIFY(installationText(root, "capannone_nord").contains("street = " + street + "\n"));
+        QStringList left = QDir(root.path(DIR_DATA_INSTALLATION)).entryList(QDir::Files);
+        QCOMPARE(left, QStringList{"capannone_nord"});
     }
 
     void freeInstallationReturnsNull()

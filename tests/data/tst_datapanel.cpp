@@ -1,5 +1,6 @@
 #include "data/datapanel.h"
 #include "data/direntry.h"
+#include "data/recordfiles.h"
 #include "support/datafiles.h"
 #include "support/testroot.h"
 
@@ -863,6 +864,43 @@ private slots:
         QDir::setCurrent(before);
         QVERIFY(QDir(root.path(DIR_DATA_PANEL)).removeRecursively());
         QCOMPARE(chSubDir(saved, sizeof saved, "solaria"), -2);
+    }
+
+private slots:
+    // ---- Deleting models and brands
+
+    void deletingAModelRemovesOnlyItsFile()
+    {
+        TestRoot root;
+        database(root);
+        brand(root, "hit", "HIT");
+        takeName(root, "hit", "hit_240");
+        takeName(root, "hit", "hit_250");
+        QString before = currentDir();
+        QCOMPARE(deleteModelPanel("hit", "hit_240"), 0);
+        QCOMPARE(currentDir(), before);
+        QVERIFY(!root.exists(DIR_DATA_PANEL "/hit/hit_240"));
+        QVERIFY(root.exists(DIR_DATA_PANEL "/hit/hit_250"));
+        QCOMPARE(deleteModelPanel("none", "hit_250"), -2);
+        QCOMPARE(deleteModelPanel(nullptr, "hit_250"), -4);
+    }
+
+    void deletingABrandRemovesEveryEntryAndTheDirectory()
+    {
+        TestRoot root;
+        database(root);
+        brand(root, "hit", "HIT");
+        takeName(root, "hit", "hit_240");
+        takeName(root, "hit", "hit_250");
+        brand(root, "sun", "Sun");
+        int steps = 0;
+        QString before = currentDir();
+        QCOMPARE(deleteBrandPanel("hit", [&steps] { steps++; }), 0);
+        QCOMPARE(currentDir(), before);
+        QCOMPARE(steps, 3);
+        QVERIFY(!root.exists(DIR_DATA_PANEL "/hit"));
+        QVERIFY(root.exists(DIR_DATA_PANEL "/sun/iname"));
+        QCOMPARE(deleteBrandPanel("hit", [] {}), -2);
     }
 };
 

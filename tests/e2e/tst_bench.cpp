@@ -88,6 +88,15 @@ private slots:
         QCOMPARE(sim.field("pv figures", "maxima"), QByteArray("2"));
         fault->setCurrentIndex(fault->findData("none"));
         QCOMPARE(sim.field("pv figures", "maxima"), QByteArray("1"));
+        // the faults beside the cells lower the power; none brings it back
+        const double pmax = sim.field("pv figures", "pmax").toDouble();
+        for (const char* f : {"rs 1", "shunt 20"}) {
+            fault->setCurrentIndex(fault->findData(f));
+            QVERIFY2(sim.field("pv figures", "pmax").toDouble() < 0.95 * pmax, f);
+            fault->setCurrentIndex(fault->findData("none"));
+            QCOMPARE(sim.field("pv figures", "pmax").toDouble(), pmax);
+        }
+        QVERIFY(fault->findData("noise 2") >= 0);
         // an open circuit: the board refuses the ramp with its error 10
         fault->setCurrentIndex(fault->findData("open"));
         TermiosClient board(root.path("/dev/ttyS1"));

@@ -2,8 +2,10 @@
 // reach only the window in front and finish every screen and dialog of a
 // module test, lists and message boxes included.
 #include "data/datameasures.h"
+#include "measure/dialogambiente.h"
 #include "measure/dialoginfo.h"
 #include "measure/panelfixture.h"
+#include "measure/stringIV.h"
 #include "shell/orvia.h"
 #include "support/keywalk.h"
 #include "support/modaldriver.h"
@@ -89,9 +91,15 @@ private slots:
             sim.tapKey("return");
             result = panel->_result;
 
-            // the measures menu: Return opens it on its first entry ("Rs"),
-            // Down twice reaches "Ambiente" and the electrical data, Return
-            // takes the entry, Escape leaves the table
+            // Return on "Misure" is the screen's first: the live environment
+            // opens, and once it is left the measures menu opens on its first
+            // entry ("Rs"); Down twice reaches "Ambiente" and the electrical
+            // data, Return takes the entry, Escape leaves the table
+            inner.onWindow("DialogAmbiente", [&](QWidget* a) {
+                met << (qobject_cast<DialogAmbiente*>(a)->_realTime ? "live environment"
+                                                                    : "still environment");
+                sim.tapKey("escape");
+            });
             inner.onWindow("DialogDatiElettrici", [&](QWidget*) {
                 met << "electrical data";
                 sim.tapKey("escape");
@@ -132,8 +140,8 @@ private slots:
         QVERIFY(walkTo(sim, &menu, "tab", "Modulo"));
         sim.tapKey("return");
 
-        QCOMPARE(met, QStringList({"wiring", "module", "reference", "ageing", "electrical data",
-                                   "save form"}));
+        QCOMPARE(met, QStringList({"wiring", "module", "reference", "ageing", "live environment",
+                                   "electrical data", "save form"}));
         QCOMPARE(driver.pending(), 0);
         QCOMPARE(inner.pending(), 0);
         QCOMPARE(firstModel, 0);
@@ -151,6 +159,40 @@ private slots:
         QCOMPARE(QString::fromLatin1(m.rname), chosen);
         QCOMPARE(QByteArray(m.rbname), QByteArray("Simul"));
         freeMeasureData(&m);
+    }
+
+    // The string screen's "Misure" with the hardware Return: the screen's own
+    // rule runs the live environment first, then the menu opens for the keys.
+    void returnOnMisureRunsTheLiveEnvironmentThenOpensTheMenu_string()
+    {
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        configure(root);
+        QVERIFY(world(sim, 850, 45));
+        ModalDriver driver;
+        QStringList met;
+        driver.onWindow("DialogAmbiente", [&](QWidget* a) {
+            met << (qobject_cast<DialogAmbiente*>(a)->_realTime ? "live" : "still");
+            sim.tapKey("escape");
+        });
+        StringIV screen(nullptr);
+        screen.show();
+        QVERIFY(walkTo(sim, &screen, "down", "Misure"));
+        sim.tapKey("return");
+        QCOMPARE(met, QStringList{"live"});
+        QMenu* menu = measuresMenu(&screen);
+        QTRY_VERIFY(menu->isVisible());
+        QCOMPARE(menu->activeAction()->text(), QString("Ambiente"));
+        // Escape closes the menu (its first entry is a submenu, which may
+        // have opened in front: one Escape each); the focus stays on "Misure"
+        for (int i = 0; i < 2 && menu->isVisible(); i++) {
+            sim.tapKey("escape");
+            QTest::qWait(50);
+        }
+        QTRY_VERIFY(!menu->isVisible());
+        QCOMPARE(screen.focusWidget()->objectName(), QString("Misure"));
+        QCOMPARE(driver.pending(), 0);
+        QVERIFY(screen.isVisible());
     }
 
     void keysReachOnlyTheWindowInFront_saveFormOpenedByTouch()

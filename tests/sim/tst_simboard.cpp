@@ -11,7 +11,8 @@
 #include <cmath>
 #include <fcntl.h>
 
-namespace {
+namespace
+{
 
 // Data lines between the echo and the status line.
 QList<QByteArray> dataLines(const QByteArray& reply, const QByteArray& command)
@@ -118,7 +119,8 @@ private slots:
         QVERIFY(std::fabs(voc * 0.282624f + 0.147721f - 37.5) <= 0.15);
         int isc0 = dataLines(line.exchange("curr_mean 0\r"), "curr_mean 0\r").value(0).toInt();
         QVERIFY(std::fabs(isc0 * 0.0032f - 8.7) <= 0.0032);
-        QList<QByteArray> info = dataLines(line.exchange("info_last\r"), "info_last\r").value(0).split('\t');
+        QList<QByteArray> info =
+            dataLines(line.exchange("info_last\r"), "info_last\r").value(0).split('\t');
         QCOMPARE(info.size(), 9);
         QCOMPARE(info[5].toInt(), isc);
         QCOMPARE(info[6].toInt(), voc);
@@ -132,9 +134,9 @@ private slots:
         QList<QByteArray> data = dataLines(line.exchange("mea_brask\r"), "mea_brask\r");
         QCOMPARE(data.size(), 128);
         QList<QByteArray> first = data.first().split('\t'), last = data.last().split('\t');
-        QCOMPARE(first[0].toInt(), 0);                                       // no current at Voc
+        QCOMPARE(first[0].toInt(), 0); // no current at Voc
         QVERIFY(std::fabs(first[1].toInt() * 0.282624 + 0.147721 - 37.5) < 0.3); // Voc
-        QVERIFY(std::fabs(last[0].toInt() * 0.0064 - 8.7) < 0.01);           // Isc
+        QVERIFY(std::fabs(last[0].toInt() * 0.0064 - 8.7) < 0.01);               // Isc
         QCOMPARE(last[1].toInt(), 0);
         // Power has its maximum near the data sheet's 250 W.
         double best = 0;
@@ -144,13 +146,56 @@ private slots:
         }
         QVERIFY2(best > 240 && best < 256, qPrintable(QString::number(best)));
     }
+    void noiseOnTheCountsIsSeededAndOfTheGivenSpread()
+    {
+        TestRoot root;
+        SimInstrument sim(root);
+        QVERIFY(sim.setCellTemperature(25));
+        TermiosClient line(root.path("/dev/ttyS1"));
+        const QByteArray ramp("ramp 512 1 0 1000 2300\r");
+        auto counts = [&] {
+            QList<int> all;
+            for (const QByteArray& l : dataLines(line.exchange(ramp), ramp))
+                for (const QByteArray& c : l.split('\t'))
+                    all << c.toInt();
+            return all;
+        };
+        const QList<int> clean = counts();
+        QCOMPARE(clean.size(), 1024);
+        QVERIFY(sim.setFault("noise 2 7"));
+        const QList<int> first = counts();
+        QVERIFY(sim.setFault("noise 2 7"));
+        QCOMPARE(counts(), first); // the same seed, the same noise
+        QVERIFY(sim.setFault("noise 2 8"));
+        QVERIFY(counts() != first);
+        // the spread: a standard deviation near 2 counts over the points away
+        // from the converters' ends
+        double sum = 0, squares = 0;
+        int n = 0;
+        for (int k = 0; k < clean.size(); k++) {
+            if (clean[k] < 50 || clean[k] > 4045)
+                continue;
+            const double d = first[k] - clean[k];
+            sum += d;
+            squares += d * d;
+            n++;
+        }
+        QVERIFY(n > 500);
+        const double sd = std::sqrt(squares / n - (sum / n) * (sum / n));
+        QVERIFY2(sd > 1.7 && sd < 2.3, qPrintable(QString::number(sd)));
+        QVERIFY(std::fabs(sum / n) < 0.3);
+        QVERIFY(sim.setFault("none"));
+        QCOMPARE(counts(), clean);
+        QVERIFY(!sim.setFault("noise -1"));
+    }
     void heatSinkWarmsWithEachRamp()
     {
         TestRoot root;
         SimInstrument sim(root);
         QVERIFY(sim.setAmbientTemperature(22));
         TermiosClient line(root.path("/dev/ttyS1"));
-        double before = dataLines(line.exchange("temp_hsink\r"), "temp_hsink\r").value(0).toDouble();
+        double before =
+            dataLines(line.exchange("temp_hsink\r"), "temp_hsink\r").value(0).toDouble();
         QVERIFY(std::fabs(before - 22.0) < 0.01);
         line.exchange("mea_brask\r");
         line.exchange("mea_brask\r");

@@ -2,25 +2,91 @@
 <!DOCTYPE TS>
 <TS version="2.0" language="en_US" sourcelanguage="it_IT">
 <context>
+    <name>ArchiveCompany</name>
+    <message>
+        <location filename="../../../archive/archivecompany.cpp" line="+12"/>
+        <source>Archivio Aziende</source>
+        <translation>Company archive</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Nuova</source>
+        <translation>New</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modifica</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cancella</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Elenco</source>
+        <translation>List</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+</context>
+<context>
+    <name>ArchiveMeasures</name>
+    <message>
+        <location filename="../../../archive/archivemeasures.cpp" line="+26"/>
+        <location line="+2"/>
+        <source>Archivio Misure</source>
+        <translation>Measurement archive</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Moduli</source>
+        <translation>Modules</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Stringhe</source>
+        <translation>Strings</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Elenco</source>
+        <translation>List</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cancella</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+</context>
+<context>
     <name>ArchivePanel</name>
     <message>
-        <location filename="../../../archive/archivepanel.cpp" line="+31"/>
-        <location line="+2"/>
+        <location filename="../../../archive/archivepanel.cpp" line="+19"/>
         <source>Archivio Moduli</source>
         <translation>Pv module archive</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+3"/>
         <source>Nuovo Modulo</source>
         <translation>New module</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Modifica Modulo</source>
         <translation>Edit module</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Modifica Marca</source>
         <translation>Edit brand</translation>
     </message>
@@ -48,30 +114,30 @@
 <context>
     <name>DeletePanel</name>
     <message>
-        <location filename="../../../archive/deletepanel.cpp" line="+31"/>
-        <location line="+86"/>
+        <location filename="../../../archive/deletepanel.cpp" line="+28"/>
+        <location line="+84"/>
         <source>Cancella Modulo / Modello</source>
         <translation>Delete module / model</translation>
     </message>
     <message>
-        <location line="-81"/>
+        <location line="-78"/>
         <source>Marca</source>
         <translation>Brand</translation>
     </message>
     <message>
         <location line="+6"/>
-        <location line="+86"/>
+        <location line="+77"/>
         <source>Cancella Modello</source>
         <translation>Delete model</translation>
     </message>
     <message>
-        <location line="-84"/>
-        <location line="+90"/>
+        <location line="-75"/>
+        <location line="+81"/>
         <source>Cancella Marca</source>
         <translation>Delete brand</translation>
     </message>
     <message>
-        <location line="-88"/>
+        <location line="-79"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
@@ -81,17 +147,17 @@
         <translation>Model</translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+42"/>
         <source>Numero di Modelli : </source>
         <translation>Number of models : </translation>
     </message>
     <message>
-        <location line="+18"/>
+        <location line="+16"/>
         <source>Conferma?</source>
         <translation>Confirm?</translation>
     </message>
     <message>
-        <location line="+48"/>
+        <location line="+32"/>
         <source>Cancella Modulo...</source>
         <translation>Deleting module...</translation>
     </message>
@@ -99,14 +165,14 @@
 <context>
     <name>EditBrand</name>
     <message>
-        <location filename="../../../archive/editbrand.cpp" line="+24"/>
-        <location line="+74"/>
-        <location line="+35"/>
+        <location filename="../../../archive/editbrand.cpp" line="+25"/>
+        <location line="+82"/>
+        <location line="+34"/>
         <source>Modifica Marca</source>
         <translation>Edit brand</translation>
     </message>
     <message>
-        <location line="-102"/>
+        <location line="-109"/>
         <source>Salva</source>
         <translation>Save</translation>
     </message>
@@ -116,23 +182,23 @@
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+33"/>
-        <location line="+30"/>
-        <location line="+4"/>
-        <location line="+10"/>
+        <location line="+32"/>
+        <location line="+21"/>
+        <location line="+18"/>
+        <location line="+13"/>
         <location line="+9"/>
         <source>&lt;Nuova Marca&gt;</source>
         <translation>&lt;New brand&gt;</translation>
     </message>
     <message>
-        <location line="-24"/>
-        <location line="+18"/>
+        <location line="-23"/>
+        <location line="+17"/>
         <source>Testo inserito non valido.</source>
         <translation>Invalid text entered.</translation>
     </message>
     <message>
-        <location line="-16"/>
-        <location line="+15"/>
+        <location line="-15"/>
+        <location line="+14"/>
         <source>Marca Modulo</source>
         <translation>Module brand</translation>
     </message>
@@ -153,15 +219,179 @@
     </message>
 </context>
 <context>
+    <name>EditCompany</name>
+    <message>
+        <location filename="../../../archive/editcompany.cpp" line="+13"/>
+        <location line="+73"/>
+        <location line="+3"/>
+        <source>Modifica Azienda</source>
+        <translation>Edit company</translation>
+    </message>
+    <message>
+        <location line="-75"/>
+        <source>Cognome
+Denominazione</source>
+        <translation>Surname
+Company name</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+10"/>
+        <source>Nome</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <source>Cod. Fisc.</source>
+        <translation>Tax code</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cod.</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+10"/>
+        <source>Città</source>
+        <translation>City</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <location line="+10"/>
+        <source>CAP</source>
+        <translation>ZIP</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <location line="+10"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <location line="+10"/>
+        <source>Via</source>
+        <translation>Street</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <source>Tel.</source>
+        <translation>Phone</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+10"/>
+        <source>E-mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <source>Cognome / Denominazione</source>
+        <translation>Surname / Company name</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Codice Fiscale</source>
+        <translation>Tax code</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Codice</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Telefono</source>
+        <translation>Phone</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Invalid text entered.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito</source>
+        <translation>Text entered</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Troppo lungo.</source>
+        <translation>Too long.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Deve essere di </source>
+        <translation>Must be of </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>caratteri</source>
+        <translation>characters</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Deve essere di almeno 5 caratteri</source>
+        <translation>Must be at least 5 characters</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Installazione</source>
+        <translation>Installation</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Installazione inserita</source>
+        <translation>Installation added</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source> è già presente.</source>
+        <translation> is already present.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Salva</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <location line="+3"/>
+        <source>Aggiornamento Azienda</source>
+        <translation>Company update</translation>
+    </message>
+    <message>
+        <location line="-3"/>
+        <source>Eseguito con successo.</source>
+        <translation>Done successfully.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Aggiornamento non riuscito.</source>
+        <translation>Update failed.</translation>
+    </message>
+</context>
+<context>
     <name>EditPanel</name>
     <message>
-        <location filename="../../../archive/editpanel.cpp" line="+27"/>
-        <location line="+223"/>
+        <location filename="../../../archive/editpanel.cpp" line="+22"/>
+        <location line="+177"/>
         <source>Modifica Modulo</source>
         <translation>Edit module</translation>
     </message>
     <message>
-        <location line="-220"/>
+        <location line="-170"/>
         <location line="+21"/>
         <source>Pmax</source>
         <translation>Pmax</translation>
@@ -328,7 +558,7 @@
         <translation>Toll+</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+6"/>
         <source>Marca</source>
         <translation>Brand</translation>
     </message>
@@ -338,27 +568,27 @@
         <translation>Model</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+3"/>
         <source>Tipo</source>
         <translation>Type</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>Salva</source>
         <translation>Save</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Reset</source>
         <translation>Reset</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+37"/>
+        <location line="+24"/>
         <source>Sconosciuto</source>
         <translation>Unknown</translation>
     </message>
@@ -388,7 +618,7 @@
         <translation>Micromorph</translation>
     </message>
     <message>
-        <location line="+114"/>
+        <location line="+90"/>
         <source>Testo inserito non valido.</source>
         <translation>Invalid text entered.</translation>
     </message>
@@ -401,13 +631,13 @@
 <context>
     <name>EditSelectedPanel</name>
     <message>
-        <location filename="../../../archive/editselpanel.cpp" line="+37"/>
-        <location line="+180"/>
+        <location filename="../../../archive/editselpanel.cpp" line="+30"/>
+        <location line="+139"/>
         <source>Modifica Modulo</source>
         <translation>Edit module</translation>
     </message>
     <message>
-        <location line="-177"/>
+        <location line="-131"/>
         <location line="+21"/>
         <source>Pmax</source>
         <translation>Pmax</translation>
@@ -574,37 +804,37 @@
         <translation>Toll+</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+6"/>
         <source>Marca</source>
         <translation>Brand</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+2"/>
         <source>Modello</source>
         <translation>Model</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+2"/>
         <source>Tipo</source>
         <translation>Type</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>Salva</source>
         <translation>Save</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Reset</source>
         <translation>Reset</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+33"/>
+        <location line="+20"/>
         <source>Sconosciuto</source>
         <translation>Unknown</translation>
     </message>
@@ -634,7 +864,7 @@
         <translation>Micromorph</translation>
     </message>
     <message>
-        <location line="+61"/>
+        <location line="+44"/>
         <source>Testo inserito non valido.</source>
         <translation>Invalid text entered.</translation>
     </message>
@@ -644,12 +874,12 @@
         <translation>Edit module model</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location line="+1"/>
         <source>Modello Modulo</source>
         <translation>Module model</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Modello vuoto.</source>
         <translation>Empty model.</translation>
     </message>
@@ -659,7 +889,7 @@
         <translation>Too long.</translation>
     </message>
     <message>
-        <location line="+23"/>
+        <location line="+24"/>
         <source>Eseguito con successo.</source>
         <translation>Done successfully.</translation>
     </message>
@@ -667,18 +897,18 @@
 <context>
     <name>FindPanel</name>
     <message>
-        <location filename="../../../archive/findpanel.cpp" line="+27"/>
+        <location filename="../../../archive/findpanel.cpp" line="+32"/>
         <source>Ricerca Modulo</source>
         <translation>Module search</translation>
     </message>
     <message>
-        <location line="+29"/>
-        <location line="+225"/>
+        <location line="+35"/>
+        <location line="+226"/>
         <source>Modello trovato : </source>
         <translation>Models found : </translation>
     </message>
     <message>
-        <location line="-223"/>
+        <location line="-224"/>
         <source>Cerca</source>
         <translation>Search</translation>
     </message>
@@ -693,7 +923,7 @@
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+68"/>
+        <location line="+67"/>
         <source>Pmax</source>
         <translation>Pmax</translation>
     </message>
@@ -843,7 +1073,7 @@
         <translation>Model</translation>
     </message>
     <message>
-        <location line="+47"/>
+        <location line="+48"/>
         <source>Ricerca Modulo...</source>
         <translation>Searching module...</translation>
     </message>
@@ -853,15 +1083,269 @@
         <translation>Cancel...</translation>
     </message>
     <message>
-        <location line="+41"/>
+        <location line="+42"/>
         <source>Nessun risultato trovato.</source>
         <translation>No result found.</translation>
     </message>
 </context>
 <context>
+    <name>InsertCompany</name>
+    <message>
+        <location filename="../../../archive/insertcompany.cpp" line="+11"/>
+        <location line="+49"/>
+        <location line="+3"/>
+        <source>Nuova Azienda</source>
+        <translation>New company</translation>
+    </message>
+    <message>
+        <location line="-51"/>
+        <source>Cognome
+Denominazione</source>
+        <translation>Surname
+Company name</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+10"/>
+        <source>Nome</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <source>Cod. Fisc.</source>
+        <translation>Tax code</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cod.</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+10"/>
+        <source>Città</source>
+        <translation>City</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <location line="+10"/>
+        <source>CAP</source>
+        <translation>ZIP</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <location line="+10"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <location line="+10"/>
+        <source>Via</source>
+        <translation>Street</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <source>Tel.</source>
+        <translation>Phone</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+10"/>
+        <source>E-mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <source>Cognome / Denominazione</source>
+        <translation>Surname / Company name</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Codice Fiscale</source>
+        <translation>Tax code</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Codice</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Telefono</source>
+        <translation>Phone</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Invalid text entered.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito</source>
+        <translation>Text entered</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Troppo lungo.</source>
+        <translation>Too long.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Deve essere di </source>
+        <translation>Must be of </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>caratteri</source>
+        <translation>characters</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Deve essere di almeno 5 caratteri</source>
+        <translation>Must be at least 5 characters</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Installazione</source>
+        <translation>Installation</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Installazione inserita</source>
+        <translation>Installation added</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source> già presente.</source>
+        <translation> already present.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Salva</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Azienda</source>
+        <translation>Company</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Nome dell&apos;azienda già presente.</source>
+        <translation>Company name already present.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Azienda Salvata.</source>
+        <translation>Company saved.</translation>
+    </message>
+</context>
+<context>
+    <name>ListCompany</name>
+    <message>
+        <location filename="../../../archive/listcompany.cpp" line="+13"/>
+        <source>Lista Aziende</source>
+        <translation>Company list</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Apri</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Cogn./Denom.</source>
+        <translation>Surn./Name</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cod.</source>
+        <translation>Code</translation>
+    </message>
+</context>
+<context>
+    <name>ListMeasures</name>
+    <message>
+        <location filename="../../../archive/listmeasures.cpp" line="+35"/>
+        <source>Lista Misure Moduli</source>
+        <translation>Module measurements</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Lista Misure Stringhe</source>
+        <translation>String measurements</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Grafico</source>
+        <translation>Graph</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Cancella</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Aggiungi</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>Data</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Ora</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Commento</source>
+        <translation>Comment</translation>
+    </message>
+    <message>
+        <location line="+40"/>
+        <source>Cancella Misure Modulo</source>
+        <translation>Delete module measurement</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cancella Misure Stringhe</source>
+        <translation>Delete string measurement</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Conferma?</source>
+        <translation>Confirm?</translation>
+    </message>
+</context>
+<context>
     <name>ListPanel</name>
     <message>
-        <location filename="../../../archive/listpanel.cpp" line="+21"/>
+        <location filename="../../../archive/listpanel.cpp" line="+24"/>
         <source>Lista Moduli</source>
         <translation>Module list</translation>
     </message>
@@ -871,12 +1355,12 @@
         <translation>Brand</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+9"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+53"/>
+        <location line="+49"/>
         <source>Model</source>
         <translation>Model</translation>
     </message>
@@ -914,14 +1398,14 @@
 <context>
     <name>NewPanel</name>
     <message>
-        <location filename="../../../archive/newpanel.cpp" line="+25"/>
-        <location line="+200"/>
+        <location filename="../../../archive/newpanel.cpp" line="+22"/>
+        <location line="+151"/>
         <location line="+19"/>
         <source>Nuovo Modulo</source>
         <translation>New module</translation>
     </message>
     <message>
-        <location line="-215"/>
+        <location line="-165"/>
         <location line="+21"/>
         <source>Pmax</source>
         <translation>Pmax</translation>
@@ -1088,32 +1572,32 @@
         <translation>Toll+</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+6"/>
         <source>Marca</source>
         <translation>Brand</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+2"/>
         <source>Modello</source>
         <translation>Model</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+2"/>
         <source>Tipo</source>
         <translation>Type</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>Salva</source>
         <translation>Save</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+30"/>
+        <location line="+18"/>
         <source>Sconosciuto</source>
         <translation>Unknown</translation>
     </message>
@@ -1143,7 +1627,7 @@
         <translation>Micromorph</translation>
     </message>
     <message>
-        <location line="+77"/>
+        <location line="+57"/>
         <source>Testo inserito non valido.</source>
         <translation>Invalid text entered.</translation>
     </message>
@@ -1153,12 +1637,12 @@
         <translation>Edit module model</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location line="+1"/>
         <source>Modello Modulo</source>
         <translation>Module model</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Modello vuoto.</source>
         <translation>Empty model.</translation>
     </message>
@@ -1168,7 +1652,7 @@
         <translation>Too long.</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+38"/>
         <source>Aggiornamento Modulo</source>
         <translation>Module update</translation>
     </message>
@@ -1181,6 +1665,249 @@
         <location line="+0"/>
         <source>Errore nel salvataggio.</source>
         <translation>Error while saving.</translation>
+    </message>
+</context>
+<context>
+    <name>SelectCompany</name>
+    <message>
+        <location filename="../../../archive/selectcompany.cpp" line="+22"/>
+        <source>Agg. Installazione</source>
+        <translation>Add installation</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Aggiungere Installazioni ad Azienda</source>
+        <translation>Add installations to company</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cancella</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+114"/>
+        <source>Cancella Azienda</source>
+        <translation>Delete company</translation>
+    </message>
+    <message>
+        <location line="-113"/>
+        <source>Modifica</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Selezione Azienda</source>
+        <translation>Select company</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Cognome / Denominazione</source>
+        <translation>Surname / Company name</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Nome</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cod. Fis.</source>
+        <translation>Tax code</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cod.</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Città</source>
+        <translation>City</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>CAP</source>
+        <translation>ZIP</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Via</source>
+        <translation>Street</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Tel.</source>
+        <translation>Phone</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>E-mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <location line="+45"/>
+        <source>Conferma?</source>
+        <translation>Confirm?</translation>
+    </message>
+</context>
+<context>
+    <name>SelectInstallation</name>
+    <message>
+        <location filename="../../../archive/selectinstallation.cpp" line="+22"/>
+        <source>Agg.</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Aggiungere Installazione</source>
+        <translation>Add installation</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cancella</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+82"/>
+        <location line="+1"/>
+        <source>Cancella Installazione</source>
+        <translation>Delete installation</translation>
+    </message>
+    <message>
+        <location line="-81"/>
+        <source>Modifica</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Selezione Installazione</source>
+        <translation>Select installation</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>Città</source>
+        <translation>City</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>CAP</source>
+        <translation>ZIP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Via</source>
+        <translation>Street</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Num. di stringhe</source>
+        <translation>No. of strings</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Rated power</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Conferma?</source>
+        <translation>Confirm?</translation>
+    </message>
+</context>
+<context>
+    <name>ViewCompany</name>
+    <message>
+        <location filename="../../../archive/viewcompany.cpp" line="+14"/>
+        <source>Visualizza Azienda</source>
+        <translation>View company</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cognome \ Denominazione</source>
+        <translation>Surname \ Company name</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Nome</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cod. Fisc.</source>
+        <translation>Tax code</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cod.</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+32"/>
+        <source>Città</source>
+        <translation>City</translation>
+    </message>
+    <message>
+        <location line="-31"/>
+        <source>CAP</source>
+        <translation>ZIP</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Via</source>
+        <translation>Street</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Tel.</source>
+        <translation>Phone</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>E-mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Visualizza</source>
+        <translation>View</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Id</source>
+        <translation>Id</translation>
     </message>
 </context>
 </TS>

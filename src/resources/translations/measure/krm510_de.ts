@@ -682,7 +682,7 @@ Bitte wiederholen.</translation>
         <translation>Temperatur von Grenzen.</translation>
     </message>
     <message>
-        <location line="+157"/>
+        <location line="+140"/>
         <source>Misura Salvata.</source>
         <translation>Messung gespeichert.</translation>
     </message>
@@ -952,7 +952,7 @@ Bitte wiederholen.</translation>
         <translation>Temperatur von Grenzen.</translation>
     </message>
     <message>
-        <location line="+138"/>
+        <location line="+121"/>
         <source>Misura Salvata.</source>
         <translation>Messung gespeichert.</translation>
     </message>
@@ -965,6 +965,55 @@ Bitte wiederholen.</translation>
         <location line="+1"/>
         <source>Nome della misura già presente.</source>
         <translation>Dieser Messungsname ist bereits vorhanden.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewMeasures</name>
+    <message>
+        <location filename="../../../measure/viewmeasures.cpp" line="+49"/>
+        <source>Misure</source>
+        <translation>Messungen</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Modulo</source>
+        <translation>Modul</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Stringa</source>
+        <translation>String</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Ambiente</source>
+        <translation>Umgebung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+31"/>
+        <source>Potenza</source>
+        <translation>Leistung</translation>
+    </message>
+    <message>
+        <location line="-29"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Potenza OPC</source>
+        <translation>Leistung OPC</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza STC</source>
+        <translation>Leistung STC</translation>
     </message>
 </context>
 </TS>

@@ -682,7 +682,7 @@ Repeat.</translation>
         <translation>Outside temperature limit.</translation>
     </message>
     <message>
-        <location line="+157"/>
+        <location line="+140"/>
         <source>Misura Salvata.</source>
         <translation>Saved measure.</translation>
     </message>
@@ -952,7 +952,7 @@ Repeat.</translation>
         <translation>Outside temperature limit.</translation>
     </message>
     <message>
-        <location line="+138"/>
+        <location line="+121"/>
         <source>Misura Salvata.</source>
         <translation>Saved measure.</translation>
     </message>
@@ -965,6 +965,55 @@ Repeat.</translation>
         <location line="+1"/>
         <source>Nome della misura già presente.</source>
         <translation>The measure name already exists.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewMeasures</name>
+    <message>
+        <location filename="../../../measure/viewmeasures.cpp" line="+49"/>
+        <source>Misure</source>
+        <translation>Measured</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Modulo</source>
+        <translation>Module</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Stringa</source>
+        <translation>String</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Ambiente</source>
+        <translation>Environment</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+31"/>
+        <source>Potenza</source>
+        <translation>Power</translation>
+    </message>
+    <message>
+        <location line="-29"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Potenza OPC</source>
+        <translation>OPC power</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza STC</source>
+        <translation>STC power</translation>
     </message>
 </context>
 </TS>

@@ -682,7 +682,7 @@ Repita et test.</translation>
         <translation>Temperatura fuera límite.</translation>
     </message>
     <message>
-        <location line="+157"/>
+        <location line="+140"/>
         <source>Misura Salvata.</source>
         <translation>Medida guardada.</translation>
     </message>
@@ -952,7 +952,7 @@ Repita et test.</translation>
         <translation>Temperatura fuera límite.</translation>
     </message>
     <message>
-        <location line="+138"/>
+        <location line="+121"/>
         <source>Misura Salvata.</source>
         <translation>Medida guardada.</translation>
     </message>
@@ -965,6 +965,55 @@ Repita et test.</translation>
         <location line="+1"/>
         <source>Nome della misura già presente.</source>
         <translation>Este nombre de medida ya existe.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewMeasures</name>
+    <message>
+        <location filename="../../../measure/viewmeasures.cpp" line="+49"/>
+        <source>Misure</source>
+        <translation>Medidas</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Modulo</source>
+        <translation>Módulo</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Stringa</source>
+        <translation>String</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Ambiente</source>
+        <translation>Ambiente</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+31"/>
+        <source>Potenza</source>
+        <translation>Potencia</translation>
+    </message>
+    <message>
+        <location line="-29"/>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Potenza OPC</source>
+        <translation>Potencia OPC</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza STC</source>
+        <translation>Potencia STC</translation>
     </message>
 </context>
 </TS>

@@ -682,7 +682,7 @@ Repeter le test.</translation>
         <translation>Température hors limite.</translation>
     </message>
     <message>
-        <location line="+157"/>
+        <location line="+140"/>
         <source>Misura Salvata.</source>
         <translation>Mesure sauvegardée.</translation>
     </message>
@@ -952,7 +952,7 @@ Repeter le test.</translation>
         <translation>Température hors limite.</translation>
     </message>
     <message>
-        <location line="+138"/>
+        <location line="+121"/>
         <source>Misura Salvata.</source>
         <translation>Mesure sauvegardée.</translation>
     </message>
@@ -965,6 +965,55 @@ Repeter le test.</translation>
         <location line="+1"/>
         <source>Nome della misura già presente.</source>
         <translation>Ce nom de mesure déjà present.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewMeasures</name>
+    <message>
+        <location filename="../../../measure/viewmeasures.cpp" line="+49"/>
+        <source>Misure</source>
+        <translation>Mesures</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Modulo</source>
+        <translation>Module</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Stringa</source>
+        <translation>Chaine</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Ambiente</source>
+        <translation>Environnement</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+31"/>
+        <source>Potenza</source>
+        <translation>Puissance</translation>
+    </message>
+    <message>
+        <location line="-29"/>
+        <source>Exit</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Potenza OPC</source>
+        <translation>Puissance OPC</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza STC</source>
+        <translation>Puissance STC</translation>
     </message>
 </context>
 </TS>

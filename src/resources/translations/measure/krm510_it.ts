@@ -682,7 +682,7 @@ Ripetere.</translation>
         <translation>Temperatura fuori limite.</translation>
     </message>
     <message>
-        <location line="+157"/>
+        <location line="+140"/>
         <source>Misura Salvata.</source>
         <translation>Misura Salvata.</translation>
     </message>
@@ -952,7 +952,7 @@ Ripetere.</translation>
         <translation>Temperatura fuori limite.</translation>
     </message>
     <message>
-        <location line="+138"/>
+        <location line="+121"/>
         <source>Misura Salvata.</source>
         <translation>Misura Salvata.</translation>
     </message>
@@ -965,6 +965,55 @@ Ripetere.</translation>
         <location line="+1"/>
         <source>Nome della misura già presente.</source>
         <translation>Nome della misura già presente.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewMeasures</name>
+    <message>
+        <location filename="../../../measure/viewmeasures.cpp" line="+49"/>
+        <source>Misure</source>
+        <translation>Misure</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Modulo</source>
+        <translation>Modulo</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Stringa</source>
+        <translation>Stringa</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Rs</source>
+        <translation>Rs</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Ambiente</source>
+        <translation>Ambiente</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+31"/>
+        <source>Potenza</source>
+        <translation>Potenza</translation>
+    </message>
+    <message>
+        <location line="-29"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Potenza OPC</source>
+        <translation>Potenza OPC</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Potenza STC</source>
+        <translation>Potenza STC</translation>
     </message>
 </context>
 </TS>

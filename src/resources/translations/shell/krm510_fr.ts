@@ -4,12 +4,12 @@
 <context>
     <name>Orvia</name>
     <message>
-        <location filename="../../../shell/orvia.cpp" line="+60"/>
+        <location filename="../../../shell/orvia.cpp" line="+63"/>
         <source>Brask</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+47"/>
+        <location line="+49"/>
         <source>Sistema</source>
         <translation>Système</translation>
     </message>
