@@ -25,6 +25,8 @@
 #include <functional>
 #include <vector>
 
+#include "insnmark.h"
+
 static double bestSeconds(int repeats, const std::function<void()>& run)
 {
     double best = 1e30;
@@ -90,6 +92,9 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     int repeats = argc > 1 ? std::max(1, atoi(argv[1])) : 3;
+    // bench_filelists <repeats> 1000: only the list of 1000 measures, for the
+    // instruction counter (marks 1 and 2 around each reading of it)
+    const bool only1000 = argc > 2 && atoi(argv[2]) == 1000;
 
     QTemporaryDir machine(QDir::tempPath() + "/krm510-bench-XXXXXX");
     SystemRoot::set(machine.path().toStdString());
@@ -107,14 +112,18 @@ int main(int argc, char** argv)
     double perFile1000 = 0;
     int written = 0;
     for (int n : {1000, 10000}) {
+        if (only1000 && n > 1000)
+            return 0;
         for (; written < n; written++)
             writeFile(meaDir + QString::asprintf("/2010%04d-%06d", written / 100, written),
                       measure);
         int got = 0;
-        double list = bestSeconds(repeats, [&got] {
+        double list = bestSeconds(repeats, [&got, n] {
+            insnMark(n == 1000 ? 1 : 3);
             _listMeasures* l = readListMeasures(nullptr, MEA_PANEL);
             got = listLength(l);
             closeListMeasures(l);
+            insnMark(n == 1000 ? 2 : 4);
         });
         if (got != n) {
             fprintf(stderr, "listed %d of %d files\n", got, n);

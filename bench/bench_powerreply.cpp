@@ -9,12 +9,16 @@
 //    silence costs 10 ms of sleeping and no instructions.
 // Measure with
 //   valgrind --tool=callgrind --toggle-collect='*bench*' bench/bench_powerreply
-// and read the inclusive instructions of each bench function.
+// and read the inclusive instructions of each bench function. On the
+// instrument's processor (scripts/armel-bench) the count between marks 1 and
+// 2 is benchExchange.
 #include "device/powerdevice.h"
 #include "device/serialport.h"
 
 #include "platform/clock.h"
 #include "platform/systemroot.h"
+
+#include "insnmark.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -24,7 +28,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace {
+namespace
+{
 
 std::string braskReply()
 {
@@ -109,10 +114,11 @@ int main()
 {
     std::string wire = braskReply();
     _raw_ramp_iv ramp;
+    insnMark(1);
     int result = benchExchange(wire, &ramp);
-    std::printf("buffer: reply %zu bytes, result %d, slot 0 %d/%d, slot 511 %d/%d\n",
-                wire.size(), result, ramp.corrente[0], ramp.tensione[0], ramp.corrente[511],
-                ramp.tensione[511]);
+    insnMark(2);
+    std::printf("buffer: reply %zu bytes, result %d, slot 0 %d/%d, slot 511 %d/%d\n", wire.size(),
+                result, ramp.corrente[0], ramp.tensione[0], ramp.corrente[511], ramp.tensione[511]);
     std::memset(&ramp, 0, sizeof ramp);
     result = overTheLine(wire, &ramp);
     std::printf("line: status %d, slot 0 %d/%d, slot 511 %d/%d\n", result, ramp.corrente[0],

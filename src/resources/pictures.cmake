@@ -31,7 +31,7 @@ endforeach()
 add_custom_command(
     OUTPUT ${KRM_PICTURE_FILES} ${KRM_PICTURES_SHEET}
     COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen
-            $<TARGET_FILE:drawpictures> ${KRM_PICTURES_DIR} ${KRM_PICTURES_SHEET}
+            ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:drawpictures> ${KRM_PICTURES_DIR} ${KRM_PICTURES_SHEET}
     DEPENDS drawpictures
     COMMENT "Drawing the program's pictures"
     VERBATIM)

@@ -41,7 +41,8 @@ class TestDataSetting : public QObject
 {
     Q_OBJECT
 
-    static _configParam readWith(const TestRoot& root, const QByteArray& content, int* result = nullptr)
+    static _configParam readWith(const TestRoot& root, const QByteArray& content,
+                                 int* result = nullptr)
     {
         root.write("/etc/krm510.conf", content);
         _configParam c;
@@ -82,6 +83,18 @@ private slots:
         QCOMPARE(d.bright, 100);
         QCOMPARE(QByteArray(d.bluemac), QByteArray("00:00:00:00:00:00"));
         QCOMPARE(QByteArray(d.bluename), QByteArray("KRM510"));
+    }
+    // The device image ships system/etc/krm510.conf as the instrument's
+    // first settings: it is the file the program writes for its defaults.
+    void imageSettingsAreTheDefaultsAsTheProgramWritesThem()
+    {
+        TestRoot root;
+        _configParam d;
+        defaultConfig(&d);
+        QVERIFY(saveConfigFile(d) > 0);
+        QFile shipped(QStringLiteral(KRM_TEST_DATA_DIR "/../../system/etc/krm510.conf"));
+        QVERIFY(shipped.open(QIODevice::ReadOnly));
+        QCOMPARE(root.read("/etc/krm510.conf"), shipped.readAll());
     }
     void fileWithNoKeysYieldsDefaults()
     {
@@ -408,8 +421,8 @@ private slots:
         QCOMPARE(file.size(), 100);
         _configParam back;
         QCOMPARE(readConfigFile(&back), 0);
-        QCOMPARE(back.sn, 77u);       // in the first 100 bytes
-        QCOMPARE(back.bright, 100);   // lost with the rest of the file
+        QCOMPARE(back.sn, 77u);     // in the first 100 bytes
+        QCOMPARE(back.bright, 100); // lost with the rest of the file
         QCOMPARE(back.utemp, 45.0f);
     }
 };

@@ -10,8 +10,8 @@
 #include <unistd.h>
 
 static const char* const dataDirs[] = {"/krm510data/datapanel", "/krm510data/datacompany",
-                                       "/krm510data/datainstallation",
-                                       "/krm510data/datameapanel", "/krm510data/datameastring"};
+                                       "/krm510data/datainstallation", "/krm510data/datameapanel",
+                                       "/krm510data/datameastring"};
 
 class TestDirEntry : public QObject
 {
@@ -54,8 +54,8 @@ private slots:
         checkDirData();
         time_t after = time(nullptr);
         QVERIFY(QFileInfo(root.path("/krm510data/datapanel")).isDir());
-        QStringList moved = QDir(root.path("/krm510data"))
-                                .entryList(QStringList() << "datapanel.*", QDir::Files);
+        QStringList moved =
+            QDir(root.path("/krm510data")).entryList(QStringList() << "datapanel.*", QDir::Files);
         QCOMPARE(moved.size(), 1);
         QString name = "/krm510data/" + moved.first();
         QString early = QString::fromStdString(backupDirName("/krm510data/datapanel", before));
@@ -89,8 +89,8 @@ private slots:
         QVERIFY(root.write("/krm510data/datapanel/acme/iname", "name = Acme\n"));
         QVERIFY(root.write("/datacompany", "stray\n"));
         checkDirData();
-        QStringList moved = QDir(root.path("/krm510data"))
-                                .entryList(QStringList() << "datacompany.*", QDir::Dirs);
+        QStringList moved =
+            QDir(root.path("/krm510data")).entryList(QStringList() << "datacompany.*", QDir::Dirs);
         QCOMPARE(moved.size(), 1);
         QString name = "/krm510data/" + moved.first() + "/acme/iname";
         QCOMPARE(root.read(name.toLocal8Bit().constData()), QByteArray("name = Acme\n"));
@@ -124,6 +124,20 @@ private slots:
         QCOMPARE(countFileDir("/krm510data/x", COUNT_FILES), 2);
         QCOMPARE(countFileDir("/krm510data/x", COUNT_DIRS), 3);
         QCOMPARE(countFileDir("/krm510data/x", static_cast<_countFile>(7)), 0);
+    }
+    // On the instrument's 32-bit processor a directory is read with 64-bit
+    // offsets; a host file system hands out cookies beyond 32 bits once a
+    // directory spans several blocks.
+    void countFileDirReadsADirectoryOfThreeHundredFiles()
+    {
+        TestRoot root;
+        for (int i = 0; i < 300; ++i)
+            QVERIFY(root.write(
+                QByteArray("/krm510data/datameapanel/measure_" + QByteArray::number(i)).constData(),
+                "x"));
+        root.mkdir("/krm510data/datameapanel/sub");
+        QCOMPARE(countFileDir("/krm510data/datameapanel", COUNT_FILES), 300);
+        QCOMPARE(countFileDir("/krm510data/datameapanel", COUNT_DIRS), 1);
     }
     void countFileDirOfMissingDirectoryIsZero()
     {

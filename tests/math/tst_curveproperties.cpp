@@ -18,12 +18,12 @@
 #include "math/compensazione.h"
 #include "math/curvechain.h"
 #include "math/dpmax.h"
+#include "math/floatbits.h"
 #include "math/rndf.h"
 #include "math/scale.h"
 #include "math/smoothing.h"
 #include "math/temperatura.h"
 #include "math/utility.h"
-#include "math/floatbits.h"
 
 #include "data/datasetting.h"
 
@@ -33,10 +33,12 @@
 #include <cstdint>
 #include <random>
 
-namespace {
+namespace
+{
 
 const int kMeasures = 3000;
 const std::uint32_t kSeed = 510u;
+const char kChainDigest[] = "333e15edccde9f7b3c230be00fd4a2b475db8747e2a646df5defd31fbe225495";
 
 class Random
 {
@@ -122,10 +124,10 @@ Sample makeSample(Random& r)
     }
 
     s.info = {};
-    s.info.icc = countOf(isc * (1.0 + r.uniform(-0.03, 0.03)), s.config.adci1,
-                         s.config.adci1offset);
-    s.info.voc = countOf(voc * (1.0 + r.uniform(-0.03, 0.03)) - s.config.adcv1offset,
-                         s.config.adcv1, 0.0);
+    s.info.icc =
+        countOf(isc * (1.0 + r.uniform(-0.03, 0.03)), s.config.adci1, s.config.adci1offset);
+    s.info.voc =
+        countOf(voc * (1.0 + r.uniform(-0.03, 0.03)) - s.config.adcv1offset, s.config.adcv1, 0.0);
 
     _panelFeature& f = s.reference;
     f.voc = static_cast<float>(voc / s.npan * r.uniform(0.9, 1.1));
@@ -169,13 +171,12 @@ void runChain(const Sample& s, Run* out)
     measuredEndPoints(&s.info, &s.config, &out->isc, &out->voc);
     out->vmpp = 0;
     out->impp = 0;
-    convertRamp(&s.raw, &s.config, &out->exact, &out->rounded, &out->pmax, &out->vmpp,
-                &out->impp);
+    convertRamp(&s.raw, &s.config, &out->exact, &out->rounded, &out->pmax, &out->vmpp, &out->impp);
     smoothing(&out->rounded, &out->preScale, MEA_PANEL, 0);
     smoothAndScale(&out->rounded, &out->smooth, out->isc, out->voc);
     out->deltaExceeded = irradianceDeltaExceeded(s.before, s.after);
-    out->cell = calcola_temperatura(s.probe, s.npan, s.temperature, s.before, out->voc,
-                                    &s.reference);
+    out->cell =
+        calcola_temperatura(s.probe, s.npan, s.temperature, s.before, out->voc, &s.reference);
     out->translated = !temperatureOutOfLimits(out->cell);
     if (!out->translated)
         return;
@@ -201,8 +202,7 @@ bool curveFinite(const _ramp_iv& c)
     return true;
 }
 
-template <typename Check>
-void forEachMeasure(Check check)
+template <typename Check> void forEachMeasure(Check check)
 {
     Random r(kSeed);
     for (int m = 0; m < kMeasures; m++) {
@@ -213,6 +213,44 @@ void forEachMeasure(Check check)
         if (QTest::currentTestFailed())
             return;
     }
+}
+
+void addFloat(QCryptographicHash& hash, float value)
+{
+    const std::uint32_t bits = floatBits(value);
+    const char bytes[4] = {char(bits & 0xff), char((bits >> 8) & 0xff), char((bits >> 16) & 0xff),
+                           char(bits >> 24)};
+    hash.addData(QByteArrayView(bytes, 4));
+}
+
+void addCurve(QCryptographicHash& hash, const _ramp_iv& c)
+{
+    for (int k = 0; k < RAMP_POINTS; k++) {
+        addFloat(hash, c.corrente[k]);
+        addFloat(hash, c.tensione[k]);
+    }
+}
+
+// Every value the chain gives, bit for bit, in one SHA-256.
+QByteArray chainDigest()
+{
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    forEachMeasure([&](int, const Sample&, const Run& run) {
+        for (float v : {run.isc, run.voc, run.pmax, run.vmpp, run.impp, run.cell})
+            addFloat(hash, v);
+        for (const _ramp_iv* c : {&run.exact, &run.rounded, &run.smooth, &run.preScale})
+            addCurve(hash, *c);
+        hash.addData(QByteArrayView(run.deltaExceeded ? "d" : "-"));
+        if (!run.translated)
+            return;
+        for (const _ramp_iv* c : {&run.stcRamp, &run.stcSmooth, &run.stcPreScale})
+            addCurve(hash, *c);
+        for (float v : {run.stc.isc, run.stc.voc, run.stc.impp, run.stc.vmpp, run.stc.pmax,
+                        run.vScale, run.iScale, run.verdict.deltaPmax})
+            addFloat(hash, v);
+        hash.addData(QByteArrayView(run.verdict.result ? "1" : "0"));
+    });
+    return hash.result().toHex();
 }
 
 } // namespace
@@ -249,17 +287,18 @@ private slots:
         forEachMeasure([](int m, const Sample&, const Run& run) {
             const QByteArray at = QByteArray::number(m);
             QVERIFY2(std::isfinite(run.isc) && std::isfinite(run.voc), at);
-            QVERIFY2(std::isfinite(run.pmax) && std::isfinite(run.vmpp)
-                         && std::isfinite(run.impp), at);
-            QVERIFY2(curveFinite(run.exact) && curveFinite(run.rounded)
-                         && curveFinite(run.smooth), at);
+            QVERIFY2(std::isfinite(run.pmax) && std::isfinite(run.vmpp) && std::isfinite(run.impp),
+                     at);
+            QVERIFY2(curveFinite(run.exact) && curveFinite(run.rounded) && curveFinite(run.smooth),
+                     at);
             QVERIFY2(std::isfinite(run.cell), at);
             if (!run.translated)
                 return;
             QVERIFY2(curveFinite(run.stcRamp) && curveFinite(run.stcSmooth), at);
-            QVERIFY2(std::isfinite(run.stc.isc) && std::isfinite(run.stc.voc)
-                         && std::isfinite(run.stc.impp) && std::isfinite(run.stc.vmpp)
-                         && std::isfinite(run.stc.pmax), at);
+            QVERIFY2(std::isfinite(run.stc.isc) && std::isfinite(run.stc.voc) &&
+                         std::isfinite(run.stc.impp) && std::isfinite(run.stc.vmpp) &&
+                         std::isfinite(run.stc.pmax),
+                     at);
             QVERIFY2(std::isfinite(run.verdict.deltaPmax), at);
             QVERIFY2(run.verdict.result == 0 || run.verdict.result == 1, at);
             QVERIFY2(run.vScale >= 30.0f && run.vScale <= 1500.0f, at);
@@ -306,6 +345,16 @@ private slots:
                 QVERIFY2(ulpDistance(run.smooth.tensione[0], run.voc) <= 1, at);
         });
         QVERIFY(checked > kMeasures / 2);
+    }
+    // The instrument's processor has no floating-point unit: its float and
+    // double arithmetic is done in software, and must give exactly the bits
+    // of the development machine. The digest was taken on x86-64 with the
+    // host's libm kept off its FMA path (GLIBC_TUNABLES, set for this room's
+    // tests), the path armel's libm takes for the one double function of
+    // the chain, std::log.
+    void chainGivesTheSameBitsOnEveryProcessor()
+    {
+        QCOMPARE(chainDigest(), QByteArray(kChainDigest));
     }
     void translatedPointsEqualPointFunctions()
     {
