@@ -28,39 +28,6 @@ class TestInstallationFlow : public QObject
 {
     Q_OBJECT
 
-    // One string of 4 measured and saved as the operator does it (as the
-    // report's tests do): the count, "Start", the reference once with
-    // "Confronto", "Salva" with the time and the comment typed.
-    static void measureOnTheStringScreen(StringIV& screen, const SimInstrument& sim, bool first,
-                                         const QString& time, const QString& comment)
-    {
-        ModalDriver driver;
-        screenkinds::coolHeatSink(sim);
-        screenkinds::enterCount(driver, 4);
-        if (!first)
-            driver.onNext([](QWidget* w) { panelfixture::touch(w, "Non Applicare"); });
-        panelfixture::touch(&screen, "Start");
-        if (first) {
-            driver.onNext(
-                [](QWidget* r) { panelfixture::chooseInReferenceDialog(r, "Simul", "SIM 250"); });
-            driver.onNext([](QWidget* w) { panelfixture::touch(w, "Non Applicare"); });
-            panelfixture::touch(&screen, "Confronto");
-        }
-        driver.onNext([time, comment](QWidget* w) {
-            ModalDriver keys;
-            keys.typeOnKeyboard(time);
-            QTest::mouseClick(panelfixture::child<QLineEdit>(w, "Ora"), Qt::LeftButton);
-            keys.typeOnKeyboard(comment);
-            QTest::mouseClick(panelfixture::child<QLineEdit>(w, "Commento"), Qt::LeftButton);
-            panelfixture::touch(w, "Salva");
-        });
-        driver.answerBox();
-        panelfixture::touch(&screen, "Salva");
-        QCOMPARE(driver.pending(), 0);
-        QCOMPARE(driver.boxes.size(), 1);
-        QCOMPARE(driver.boxes[0].text, QString("Misura Salvata."));
-    }
-
     static void pickRow(QListWidget* l, int row)
     {
         QTest::mouseClick(l->viewport(), Qt::LeftButton, Qt::NoModifier,
@@ -156,8 +123,8 @@ private slots:
         {
             StringIV screen(nullptr);
             screen.show();
-            measureOnTheStringScreen(screen, sim, true, "10:00", "Fila 1");
-            measureOnTheStringScreen(screen, sim, false, "10:05", "Fila 2");
+            QVERIFY(screenkinds::measureOnTheStringScreen(screen, sim, true, "10:00", "Fila 1"));
+            QVERIFY(screenkinds::measureOnTheStringScreen(screen, sim, false, "10:05", "Fila 2"));
         }
         const QStringList files =
             QDir(root.path("/krm510data/datameastring")).entryList(QDir::Files, QDir::Name);
