@@ -1,6 +1,7 @@
 #include "archive/selectinstallation.h"
 
 #include "archive/archiveform.h"
+#include "archive/editinstallation.h"
 #include "data/datainstallation.h"
 #include "data/storedtext.h"
 #include "toolkit/messagebox.h"
@@ -47,8 +48,10 @@ SelectInstallation::SelectInstallation(QWidget* parent, _selectType mode)
     reloadInstallations();
     connect(_comboInstallation, &QComboBox::currentIndexChanged, this,
             &SelectInstallation::selectInstallationInCombo);
-    // the edit screen of installations is not part of the instrument yet
-    if (mode == SELECT_DELETE)
+    if (mode == SELECT_EDIT)
+        connect(_buttonAction, &QPushButton::clicked, this,
+                &SelectInstallation::goToEditInstallation);
+    else if (mode == SELECT_DELETE)
         connect(_buttonAction, &QPushButton::clicked, this,
                 &SelectInstallation::goToDeleteInstallation);
     else if (mode == SELECT_VIEW)
@@ -110,6 +113,24 @@ void SelectInstallation::goToDeleteInstallation()
         return;
     // its measures and the companies that name it stay
     deleteDataInstallation(file.constData());
+    reloadInstallations();
+}
+
+void SelectInstallation::goToEditInstallation()
+{
+    QByteArray file = comboKey(_comboInstallation);
+    _listInstallation* node = _installationHead;
+    while (node != nullptr && file != node->file)
+        node = node->next;
+    if (node == nullptr)
+        return;
+    _installation* in = readInstallationFromFile(node->file);
+    if (in == nullptr)
+        return;
+    EditInstallation* screen = new EditInstallation(this, node, in);
+    screen->exec();
+    delete screen;
+    freeInstallation(in);
     reloadInstallations();
 }
 

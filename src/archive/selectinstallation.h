@@ -26,6 +26,7 @@ public:
 public slots:
     void insertInstallationCombo();
     void selectInstallationInCombo();
+    void goToEditInstallation();
     void goToDeleteInstallation();
     void goToAddInstallation();
 

@@ -1,6 +1,7 @@
 #include "shell/orvia.h"
 
 #include "archive/archivecompany.h"
+#include "archive/archiveinstallation.h"
 #include "archive/archivemeasures.h"
 #include "archive/archivepanel.h"
 #include "data/datasetting.h"
@@ -99,6 +100,8 @@ Orvia::Orvia()
     connect(_buttonString, &QPushButton::clicked, this, &Orvia::goToStringIV);
     connect(_buttonArchivePanel, &QPushButton::clicked, this, &Orvia::goToArchivePanel);
     connect(_buttonArchiveCompany, &QPushButton::clicked, this, &Orvia::goToArchiveCompany);
+    connect(_buttonArchiveInstallation, &QPushButton::clicked, this,
+            &Orvia::goToArchiveInstallation);
     connect(_buttonArchiveMeasures, &QPushButton::clicked, this, &Orvia::goToArchiveMeasures);
     connect(_buttonUsb, &QPushButton::clicked, this, &Orvia::goToUsbDialog);
     showMaximized();
@@ -208,6 +211,13 @@ void Orvia::goToArchiveCompany()
     delete screen;
 }
 
+void Orvia::goToArchiveInstallation()
+{
+    ArchiveInstallation* screen = new ArchiveInstallation(this);
+    screen->exec();
+    delete screen;
+}
+
 void Orvia::goToArchiveMeasures()
 {
     ArchiveMeasures* screen = new ArchiveMeasures(this);
@@ -245,6 +255,8 @@ void Orvia::keyPressEvent(QKeyEvent* event)
             goToArchivePanel();
         if (_buttonArchiveCompany->hasFocus())
             goToArchiveCompany();
+        if (_buttonArchiveInstallation->hasFocus())
+            goToArchiveInstallation();
         if (_buttonArchiveMeasures->hasFocus())
             goToArchiveMeasures();
         if (_buttonUsb->hasFocus())

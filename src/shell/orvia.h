@@ -33,6 +33,7 @@ public slots:
     void goToStringIV();
     void goToArchivePanel();
     void goToArchiveCompany();
+    void goToArchiveInstallation();
     void goToArchiveMeasures();
     void goToUsbDialog();
     void goToBraskDebug();

@@ -120,38 +120,11 @@ class TestReport : public QObject
 
     // ---- The end-to-end installation on the simulated instrument.
 
-    // One string measured and saved on the string screen as the operator
-    // does it: the count on the pad, "Start", the reference module chosen once
-    // with "Confronto" (no ageing allowance, then or after), "Salva" with the
-    // time and the comment typed on the keyboard.
     static void measureOnTheStringScreen(StringIV& screen, const SimInstrument& sim, bool first,
                                          const QString& time, const QString& comment)
     {
-        ModalDriver driver;
-        screenkinds::coolHeatSink(sim);
-        screenkinds::enterCount(driver, 4);
-        if (!first)
-            driver.onNext([](QWidget* w) { panelfixture::touch(w, "Non Applicare"); });
-        panelfixture::touch(&screen, "Start");
-        if (first) {
-            driver.onNext(
-                [](QWidget* r) { panelfixture::chooseInReferenceDialog(r, "Simul", "SIM 250"); });
-            driver.onNext([](QWidget* w) { panelfixture::touch(w, "Non Applicare"); });
-            panelfixture::touch(&screen, "Confronto");
-        }
-        driver.onNext([time, comment](QWidget* w) {
-            ModalDriver keys;
-            keys.typeOnKeyboard(time);
-            QTest::mouseClick(panelfixture::child<QLineEdit>(w, "Ora"), Qt::LeftButton);
-            keys.typeOnKeyboard(comment);
-            QTest::mouseClick(panelfixture::child<QLineEdit>(w, "Commento"), Qt::LeftButton);
-            panelfixture::touch(w, "Salva");
-        });
-        driver.answerBox();
-        panelfixture::touch(&screen, "Salva");
-        if (driver.pending() != 0 || driver.boxes.size() != 1 ||
-            driver.boxes[0].text != "Misura Salvata.")
-            qWarning("string %s not saved: %d windows not met", qPrintable(time), driver.pending());
+        if (!screenkinds::measureOnTheStringScreen(screen, sim, first, time, comment))
+            qWarning("string %s not saved", qPrintable(time));
     }
 
 public:

@@ -35,6 +35,39 @@
     </message>
 </context>
 <context>
+    <name>ArchiveInstallation</name>
+    <message>
+        <location filename="../../../archive/archiveinstallation.cpp" line="+12"/>
+        <source>Archivio Installazioni</source>
+        <translation>Anlagenarchiv</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Nuova</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modifica</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cancella</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Elenco</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Ende</translation>
+    </message>
+</context>
+<context>
     <name>ArchiveMeasures</name>
     <message>
         <location filename="../../../archive/archivemeasures.cpp" line="+26"/>
@@ -370,6 +403,148 @@ Firmenname</translation>
         <location line="+3"/>
         <source>Aggiornamento Azienda</source>
         <translation>Firma aktualisieren</translation>
+    </message>
+    <message>
+        <location line="-3"/>
+        <source>Eseguito con successo.</source>
+        <translation>Erfolgreich ausgeführt.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Aggiornamento non riuscito.</source>
+        <translation>Aktualisierung fehlgeschlagen.</translation>
+    </message>
+</context>
+<context>
+    <name>EditInstallation</name>
+    <message>
+        <location filename="../../../archive/editinstallation.cpp" line="+9"/>
+        <location line="+60"/>
+        <location line="+3"/>
+        <source>Modifica Installazione</source>
+        <translation>Anlage ändern</translation>
+    </message>
+    <message>
+        <location line="-62"/>
+        <location line="+7"/>
+        <source>Installazione Id</source>
+        <translation>Anlagen-Id</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Città</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>CAP</source>
+        <translation>PLZ</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Via</source>
+        <translation>Straße</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <source>Num. di stringhe</source>
+        <translation>Anz. Strings</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nom.</source>
+        <translation>Nennleist.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Numero delle stringhe</source>
+        <translation>Anzahl der Strings</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Nennleistung</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>kW</source>
+        <translation>kW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Eingegebener Text ungültig.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito</source>
+        <translation>Eingegebener Text</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Troppo lungo.</source>
+        <translation>Zu lang.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Numero non valido.</source>
+        <translation>Ungültige Zahl.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Modulo</source>
+        <translation>Modulmessungen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Stringhe</source>
+        <translation>Stringmessungen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misura inserita</source>
+        <translation>Messung eingefügt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>Già presente.</source>
+        <translation>Bereits vorhanden.</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>Misure inserita</source>
+        <translation>Messungen eingefügt</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Salva</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <location line="+3"/>
+        <source>Aggiornameno Installazione</source>
+        <translation>Anlage aktualisiert</translation>
     </message>
     <message>
         <location line="-3"/>
@@ -1252,6 +1427,147 @@ Firmenname</translation>
     </message>
 </context>
 <context>
+    <name>InsertInstallation</name>
+    <message>
+        <location filename="../../../archive/insertinstallation.cpp" line="+9"/>
+        <location line="+47"/>
+        <location line="+3"/>
+        <source>Inserimento Installazione</source>
+        <translation>Neue Anlage</translation>
+    </message>
+    <message>
+        <location line="-49"/>
+        <location line="+7"/>
+        <source>Installazione Id</source>
+        <translation>Anlagen-Id</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Città</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>CAP</source>
+        <translation>PLZ</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Via</source>
+        <translation>Straße</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <source>Num. di stringhe</source>
+        <translation>Anz. Strings</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nom.</source>
+        <translation>Nennleist.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Numero delle stringhe</source>
+        <translation>Anzahl der Strings</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Nennleistung</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>kW</source>
+        <translation>kW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Eingegebener Text ungültig.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito</source>
+        <translation>Eingegebener Text</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Troppo lungo.</source>
+        <translation>Zu lang.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Numero non valido.</source>
+        <translation>Ungültige Zahl.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Moduli</source>
+        <translation>Modulmessungen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Stringhe</source>
+        <translation>Stringmessungen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>Misura inserita</source>
+        <translation>Messung eingefügt</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>Già presente.</source>
+        <translation>Bereits vorhanden.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source> già presente.</source>
+        <translation> bereits vorhanden.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Salva</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Installazione</source>
+        <translation>Anlage</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Nome dell&apos;installazione già presente.</source>
+        <translation>Anlagenname bereits vorhanden.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Installazione Salvata.</source>
+        <translation>Anlage gespeichert.</translation>
+    </message>
+</context>
+<context>
     <name>ListCompany</name>
     <message>
         <location filename="../../../archive/listcompany.cpp" line="+13"/>
@@ -1277,6 +1593,34 @@ Firmenname</translation>
         <location line="+0"/>
         <source>Cod.</source>
         <translation>Code</translation>
+    </message>
+</context>
+<context>
+    <name>ListInstallation</name>
+    <message>
+        <location filename="../../../archive/listinstallation.cpp" line="+13"/>
+        <source>Lista Installazioni</source>
+        <translation>Anlagenliste</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Apri</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Id</source>
+        <translation>Id</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Città</source>
+        <translation>Ort</translation>
     </message>
 </context>
 <context>
@@ -1764,7 +2108,7 @@ Firmenname</translation>
 <context>
     <name>SelectInstallation</name>
     <message>
-        <location filename="../../../archive/selectinstallation.cpp" line="+22"/>
+        <location filename="../../../archive/selectinstallation.cpp" line="+23"/>
         <source>Agg.</source>
         <translation>Hinzuf.</translation>
     </message>
@@ -1780,13 +2124,13 @@ Firmenname</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+82"/>
+        <location line="+84"/>
         <location line="+1"/>
         <source>Cancella Installazione</source>
         <translation>Anlage löschen</translation>
     </message>
     <message>
-        <location line="-81"/>
+        <location line="-83"/>
         <source>Modifica</source>
         <translation>Ändern</translation>
     </message>
@@ -1801,7 +2145,7 @@ Firmenname</translation>
         <translation>Ende</translation>
     </message>
     <message>
-        <location line="+46"/>
+        <location line="+48"/>
         <source>Città</source>
         <translation>Ort</translation>
     </message>
@@ -1908,6 +2252,74 @@ Firmenname</translation>
         <location line="+12"/>
         <source>Id</source>
         <translation>Id</translation>
+    </message>
+</context>
+<context>
+    <name>ViewInstallation</name>
+    <message>
+        <location filename="../../../archive/viewinstallation.cpp" line="+14"/>
+        <source>Installazione</source>
+        <translation>Anlage</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Installazione Id</source>
+        <translation>Anlagen-Id</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Città</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>CAP</source>
+        <translation>PLZ</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Via</source>
+        <translation>Straße</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Num. di stringhe</source>
+        <translation>Anz. Strings</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Potenza Nom.</source>
+        <translation>Nennleist.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Misure Modulo</source>
+        <translation>Modulmessungen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Stringhe</source>
+        <translation>Stringmessungen</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Visualizza Grafico</source>
+        <translation>Grafik anzeigen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Vuoto</source>
+        <translation>Leer</translation>
     </message>
 </context>
 </TS>

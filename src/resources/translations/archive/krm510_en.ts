@@ -35,6 +35,39 @@
     </message>
 </context>
 <context>
+    <name>ArchiveInstallation</name>
+    <message>
+        <location filename="../../../archive/archiveinstallation.cpp" line="+12"/>
+        <source>Archivio Installazioni</source>
+        <translation>Installation archive</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Nuova</source>
+        <translation>New</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modifica</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cancella</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Elenco</source>
+        <translation>List</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+</context>
+<context>
     <name>ArchiveMeasures</name>
     <message>
         <location filename="../../../archive/archivemeasures.cpp" line="+26"/>
@@ -370,6 +403,148 @@ Company name</translation>
         <location line="+3"/>
         <source>Aggiornamento Azienda</source>
         <translation>Company update</translation>
+    </message>
+    <message>
+        <location line="-3"/>
+        <source>Eseguito con successo.</source>
+        <translation>Done successfully.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Aggiornamento non riuscito.</source>
+        <translation>Update failed.</translation>
+    </message>
+</context>
+<context>
+    <name>EditInstallation</name>
+    <message>
+        <location filename="../../../archive/editinstallation.cpp" line="+9"/>
+        <location line="+60"/>
+        <location line="+3"/>
+        <source>Modifica Installazione</source>
+        <translation>Edit installation</translation>
+    </message>
+    <message>
+        <location line="-62"/>
+        <location line="+7"/>
+        <source>Installazione Id</source>
+        <translation>Installation Id</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Città</source>
+        <translation>City</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>CAP</source>
+        <translation>ZIP</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Via</source>
+        <translation>Street</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <source>Num. di stringhe</source>
+        <translation>No. of strings</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nom.</source>
+        <translation>Nom. power</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Numero delle stringhe</source>
+        <translation>Number of strings</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Rated power</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>kW</source>
+        <translation>kW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Invalid text entered.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito</source>
+        <translation>Text entered</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Troppo lungo.</source>
+        <translation>Too long.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Numero non valido.</source>
+        <translation>Invalid number.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Modulo</source>
+        <translation>Module measures</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Stringhe</source>
+        <translation>String measures</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misura inserita</source>
+        <translation>Measure inserted</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>Già presente.</source>
+        <translation>Already present.</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>Misure inserita</source>
+        <translation>Measures inserted</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Salva</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <location line="+3"/>
+        <source>Aggiornameno Installazione</source>
+        <translation>Installation update</translation>
     </message>
     <message>
         <location line="-3"/>
@@ -1252,6 +1427,147 @@ Company name</translation>
     </message>
 </context>
 <context>
+    <name>InsertInstallation</name>
+    <message>
+        <location filename="../../../archive/insertinstallation.cpp" line="+9"/>
+        <location line="+47"/>
+        <location line="+3"/>
+        <source>Inserimento Installazione</source>
+        <translation>New installation</translation>
+    </message>
+    <message>
+        <location line="-49"/>
+        <location line="+7"/>
+        <source>Installazione Id</source>
+        <translation>Installation Id</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Città</source>
+        <translation>City</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>CAP</source>
+        <translation>ZIP</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Via</source>
+        <translation>Street</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <source>Num. di stringhe</source>
+        <translation>No. of strings</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nom.</source>
+        <translation>Nom. power</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Numero delle stringhe</source>
+        <translation>Number of strings</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Rated power</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>kW</source>
+        <translation>kW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Invalid text entered.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito</source>
+        <translation>Text entered</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Troppo lungo.</source>
+        <translation>Too long.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Numero non valido.</source>
+        <translation>Invalid number.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Moduli</source>
+        <translation>Module measures</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Stringhe</source>
+        <translation>String measures</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>Misura inserita</source>
+        <translation>Measure inserted</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>Già presente.</source>
+        <translation>Already present.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source> già presente.</source>
+        <translation> already present.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Salva</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Installazione</source>
+        <translation>Installation</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Nome dell&apos;installazione già presente.</source>
+        <translation>Installation name already present.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Installazione Salvata.</source>
+        <translation>Installation saved.</translation>
+    </message>
+</context>
+<context>
     <name>ListCompany</name>
     <message>
         <location filename="../../../archive/listcompany.cpp" line="+13"/>
@@ -1277,6 +1593,34 @@ Company name</translation>
         <location line="+0"/>
         <source>Cod.</source>
         <translation>Code</translation>
+    </message>
+</context>
+<context>
+    <name>ListInstallation</name>
+    <message>
+        <location filename="../../../archive/listinstallation.cpp" line="+13"/>
+        <source>Lista Installazioni</source>
+        <translation>Installation list</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Apri</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Id</source>
+        <translation>Id</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Città</source>
+        <translation>City</translation>
     </message>
 </context>
 <context>
@@ -1764,7 +2108,7 @@ Company name</translation>
 <context>
     <name>SelectInstallation</name>
     <message>
-        <location filename="../../../archive/selectinstallation.cpp" line="+22"/>
+        <location filename="../../../archive/selectinstallation.cpp" line="+23"/>
         <source>Agg.</source>
         <translation>Add</translation>
     </message>
@@ -1780,13 +2124,13 @@ Company name</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+82"/>
+        <location line="+84"/>
         <location line="+1"/>
         <source>Cancella Installazione</source>
         <translation>Delete installation</translation>
     </message>
     <message>
-        <location line="-81"/>
+        <location line="-83"/>
         <source>Modifica</source>
         <translation>Edit</translation>
     </message>
@@ -1801,7 +2145,7 @@ Company name</translation>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+46"/>
+        <location line="+48"/>
         <source>Città</source>
         <translation>City</translation>
     </message>
@@ -1908,6 +2252,74 @@ Company name</translation>
         <location line="+12"/>
         <source>Id</source>
         <translation>Id</translation>
+    </message>
+</context>
+<context>
+    <name>ViewInstallation</name>
+    <message>
+        <location filename="../../../archive/viewinstallation.cpp" line="+14"/>
+        <source>Installazione</source>
+        <translation>Installation</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Installazione Id</source>
+        <translation>Installation Id</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Città</source>
+        <translation>City</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>CAP</source>
+        <translation>ZIP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Via</source>
+        <translation>Street</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Num. di stringhe</source>
+        <translation>No. of strings</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Potenza Nom.</source>
+        <translation>Nom. power</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Misure Modulo</source>
+        <translation>Module measures</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Stringhe</source>
+        <translation>String measures</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Visualizza Grafico</source>
+        <translation>View graph</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Vuoto</source>
+        <translation>Empty</translation>
     </message>
 </context>
 </TS>

@@ -35,6 +35,39 @@
     </message>
 </context>
 <context>
+    <name>ArchiveInstallation</name>
+    <message>
+        <location filename="../../../archive/archiveinstallation.cpp" line="+12"/>
+        <source>Archivio Installazioni</source>
+        <translation>Archivo instalaciones</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Nuova</source>
+        <translation>Nueva</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modifica</source>
+        <translation>Modificar</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cancella</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Elenco</source>
+        <translation>Lista</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+</context>
+<context>
     <name>ArchiveMeasures</name>
     <message>
         <location filename="../../../archive/archivemeasures.cpp" line="+26"/>
@@ -370,6 +403,148 @@ Denominación</translation>
         <location line="+3"/>
         <source>Aggiornamento Azienda</source>
         <translation>Actualización empresa</translation>
+    </message>
+    <message>
+        <location line="-3"/>
+        <source>Eseguito con successo.</source>
+        <translation>Realizado con éxito.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Aggiornamento non riuscito.</source>
+        <translation>Actualización fallida.</translation>
+    </message>
+</context>
+<context>
+    <name>EditInstallation</name>
+    <message>
+        <location filename="../../../archive/editinstallation.cpp" line="+9"/>
+        <location line="+60"/>
+        <location line="+3"/>
+        <source>Modifica Installazione</source>
+        <translation>Modificar instalación</translation>
+    </message>
+    <message>
+        <location line="-62"/>
+        <location line="+7"/>
+        <source>Installazione Id</source>
+        <translation>Id instalación</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Città</source>
+        <translation>Ciudad</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>CAP</source>
+        <translation>CP</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Via</source>
+        <translation>Calle</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <source>Num. di stringhe</source>
+        <translation>Núm. de cadenas</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nom.</source>
+        <translation>Potencia nom.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Numero delle stringhe</source>
+        <translation>Número de cadenas</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Potencia nominal</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>kW</source>
+        <translation>kW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Texto introducido no válido.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito</source>
+        <translation>Texto introducido</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Troppo lungo.</source>
+        <translation>Demasiado largo.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Numero non valido.</source>
+        <translation>Número no válido.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Modulo</source>
+        <translation>Medidas módulo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Stringhe</source>
+        <translation>Medidas cadenas</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misura inserita</source>
+        <translation>Medida insertada</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>Già presente.</source>
+        <translation>Ya presente.</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>Misure inserita</source>
+        <translation>Medidas insertada</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Salva</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <location line="+3"/>
+        <source>Aggiornameno Installazione</source>
+        <translation>Actualización instalación</translation>
     </message>
     <message>
         <location line="-3"/>
@@ -1252,6 +1427,147 @@ Denominación</translation>
     </message>
 </context>
 <context>
+    <name>InsertInstallation</name>
+    <message>
+        <location filename="../../../archive/insertinstallation.cpp" line="+9"/>
+        <location line="+47"/>
+        <location line="+3"/>
+        <source>Inserimento Installazione</source>
+        <translation>Nueva instalación</translation>
+    </message>
+    <message>
+        <location line="-49"/>
+        <location line="+7"/>
+        <source>Installazione Id</source>
+        <translation>Id instalación</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Città</source>
+        <translation>Ciudad</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>CAP</source>
+        <translation>CP</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Via</source>
+        <translation>Calle</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <source>Num. di stringhe</source>
+        <translation>Núm. de cadenas</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nom.</source>
+        <translation>Potencia nom.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Numero delle stringhe</source>
+        <translation>Número de cadenas</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Potencia nominal</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>kW</source>
+        <translation>kW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Texto introducido no válido.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito</source>
+        <translation>Texto introducido</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Troppo lungo.</source>
+        <translation>Demasiado largo.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Numero non valido.</source>
+        <translation>Número no válido.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Moduli</source>
+        <translation>Medidas módulos</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Stringhe</source>
+        <translation>Medidas cadenas</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>Misura inserita</source>
+        <translation>Medida insertada</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>Già presente.</source>
+        <translation>Ya presente.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source> già presente.</source>
+        <translation> ya presente.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Salva</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Installazione</source>
+        <translation>Instalación</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Nome dell&apos;installazione già presente.</source>
+        <translation>Nombre de la instalación ya presente.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Installazione Salvata.</source>
+        <translation>Instalación guardada.</translation>
+    </message>
+</context>
+<context>
     <name>ListCompany</name>
     <message>
         <location filename="../../../archive/listcompany.cpp" line="+13"/>
@@ -1277,6 +1593,34 @@ Denominación</translation>
         <location line="+0"/>
         <source>Cod.</source>
         <translation>Cód.</translation>
+    </message>
+</context>
+<context>
+    <name>ListInstallation</name>
+    <message>
+        <location filename="../../../archive/listinstallation.cpp" line="+13"/>
+        <source>Lista Installazioni</source>
+        <translation>Lista instalaciones</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Apri</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Id</source>
+        <translation>Id</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Città</source>
+        <translation>Ciudad</translation>
     </message>
 </context>
 <context>
@@ -1764,7 +2108,7 @@ Denominación</translation>
 <context>
     <name>SelectInstallation</name>
     <message>
-        <location filename="../../../archive/selectinstallation.cpp" line="+22"/>
+        <location filename="../../../archive/selectinstallation.cpp" line="+23"/>
         <source>Agg.</source>
         <translation>Añad.</translation>
     </message>
@@ -1780,13 +2124,13 @@ Denominación</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+82"/>
+        <location line="+84"/>
         <location line="+1"/>
         <source>Cancella Installazione</source>
         <translation>Borrar instalación</translation>
     </message>
     <message>
-        <location line="-81"/>
+        <location line="-83"/>
         <source>Modifica</source>
         <translation>Modificar</translation>
     </message>
@@ -1801,7 +2145,7 @@ Denominación</translation>
         <translation>Salir</translation>
     </message>
     <message>
-        <location line="+46"/>
+        <location line="+48"/>
         <source>Città</source>
         <translation>Ciudad</translation>
     </message>
@@ -1908,6 +2252,74 @@ Denominación</translation>
         <location line="+12"/>
         <source>Id</source>
         <translation>Id</translation>
+    </message>
+</context>
+<context>
+    <name>ViewInstallation</name>
+    <message>
+        <location filename="../../../archive/viewinstallation.cpp" line="+14"/>
+        <source>Installazione</source>
+        <translation>Instalación</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Installazione Id</source>
+        <translation>Id instalación</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Città</source>
+        <translation>Ciudad</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>CAP</source>
+        <translation>CP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Via</source>
+        <translation>Calle</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Num. di stringhe</source>
+        <translation>Núm. de cadenas</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Potenza Nom.</source>
+        <translation>Potencia nom.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Misure Modulo</source>
+        <translation>Medidas módulo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Stringhe</source>
+        <translation>Medidas cadenas</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Visualizza Grafico</source>
+        <translation>Ver gráfico</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Vuoto</source>
+        <translation>Vacío</translation>
     </message>
 </context>
 </TS>

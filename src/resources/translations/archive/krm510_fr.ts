@@ -35,6 +35,39 @@
     </message>
 </context>
 <context>
+    <name>ArchiveInstallation</name>
+    <message>
+        <location filename="../../../archive/archiveinstallation.cpp" line="+12"/>
+        <source>Archivio Installazioni</source>
+        <translation>Archive installations</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Nuova</source>
+        <translation>Nouvelle</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modifica</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cancella</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Elenco</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Sortie</translation>
+    </message>
+</context>
+<context>
     <name>ArchiveMeasures</name>
     <message>
         <location filename="../../../archive/archivemeasures.cpp" line="+26"/>
@@ -370,6 +403,148 @@ Raison sociale</translation>
         <location line="+3"/>
         <source>Aggiornamento Azienda</source>
         <translation>Mise à jour entreprise</translation>
+    </message>
+    <message>
+        <location line="-3"/>
+        <source>Eseguito con successo.</source>
+        <translation>Exécuté avec succès.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Aggiornamento non riuscito.</source>
+        <translation>Échec de la mise à jour.</translation>
+    </message>
+</context>
+<context>
+    <name>EditInstallation</name>
+    <message>
+        <location filename="../../../archive/editinstallation.cpp" line="+9"/>
+        <location line="+60"/>
+        <location line="+3"/>
+        <source>Modifica Installazione</source>
+        <translation>Modifier installation</translation>
+    </message>
+    <message>
+        <location line="-62"/>
+        <location line="+7"/>
+        <source>Installazione Id</source>
+        <translation>Id installation</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Città</source>
+        <translation>Ville</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>CAP</source>
+        <translation>CP</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Prov.</source>
+        <translation>Dép.</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Via</source>
+        <translation>Rue</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <source>Num. di stringhe</source>
+        <translation>Nb. de chaînes</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nom.</source>
+        <translation>Puissance nom.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Numero delle stringhe</source>
+        <translation>Nombre de chaînes</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Puissance nominale</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>kW</source>
+        <translation>kW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Texte saisi non valide.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito</source>
+        <translation>Texte saisi</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Troppo lungo.</source>
+        <translation>Trop long.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Numero non valido.</source>
+        <translation>Nombre non valide.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Modulo</source>
+        <translation>Mesures module</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Stringhe</source>
+        <translation>Mesures chaînes</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misura inserita</source>
+        <translation>Mesure insérée</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>Già presente.</source>
+        <translation>Déjà présente.</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>Misure inserita</source>
+        <translation>Mesures insérée</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Salva</source>
+        <translation>Sauvegarder</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <location line="+3"/>
+        <source>Aggiornameno Installazione</source>
+        <translation>Mise à jour installation</translation>
     </message>
     <message>
         <location line="-3"/>
@@ -1252,6 +1427,147 @@ Raison sociale</translation>
     </message>
 </context>
 <context>
+    <name>InsertInstallation</name>
+    <message>
+        <location filename="../../../archive/insertinstallation.cpp" line="+9"/>
+        <location line="+47"/>
+        <location line="+3"/>
+        <source>Inserimento Installazione</source>
+        <translation>Nouvelle installation</translation>
+    </message>
+    <message>
+        <location line="-49"/>
+        <location line="+7"/>
+        <source>Installazione Id</source>
+        <translation>Id installation</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Città</source>
+        <translation>Ville</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>CAP</source>
+        <translation>CP</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Prov.</source>
+        <translation>Dép.</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Via</source>
+        <translation>Rue</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <source>Num. di stringhe</source>
+        <translation>Nb. de chaînes</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nom.</source>
+        <translation>Puissance nom.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Numero delle stringhe</source>
+        <translation>Nombre de chaînes</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Puissance nominale</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>kW</source>
+        <translation>kW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Texte saisi non valide.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito</source>
+        <translation>Texte saisi</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Troppo lungo.</source>
+        <translation>Trop long.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Numero non valido.</source>
+        <translation>Nombre non valide.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Moduli</source>
+        <translation>Mesures modules</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Stringhe</source>
+        <translation>Mesures chaînes</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>Misura inserita</source>
+        <translation>Mesure insérée</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>Già presente.</source>
+        <translation>Déjà présente.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source> già presente.</source>
+        <translation> déjà présente.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Salva</source>
+        <translation>Sauvegarder</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Installazione</source>
+        <translation>Installation</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Nome dell&apos;installazione già presente.</source>
+        <translation>Nom de l&apos;installation déjà présent.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Installazione Salvata.</source>
+        <translation>Installation enregistrée.</translation>
+    </message>
+</context>
+<context>
     <name>ListCompany</name>
     <message>
         <location filename="../../../archive/listcompany.cpp" line="+13"/>
@@ -1277,6 +1593,34 @@ Raison sociale</translation>
         <location line="+0"/>
         <source>Cod.</source>
         <translation>Code</translation>
+    </message>
+</context>
+<context>
+    <name>ListInstallation</name>
+    <message>
+        <location filename="../../../archive/listinstallation.cpp" line="+13"/>
+        <source>Lista Installazioni</source>
+        <translation>Liste installations</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Apri</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Id</source>
+        <translation>Id</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Città</source>
+        <translation>Ville</translation>
     </message>
 </context>
 <context>
@@ -1764,7 +2108,7 @@ Raison sociale</translation>
 <context>
     <name>SelectInstallation</name>
     <message>
-        <location filename="../../../archive/selectinstallation.cpp" line="+22"/>
+        <location filename="../../../archive/selectinstallation.cpp" line="+23"/>
         <source>Agg.</source>
         <translation>Ajout.</translation>
     </message>
@@ -1780,13 +2124,13 @@ Raison sociale</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+82"/>
+        <location line="+84"/>
         <location line="+1"/>
         <source>Cancella Installazione</source>
         <translation>Effacer installation</translation>
     </message>
     <message>
-        <location line="-81"/>
+        <location line="-83"/>
         <source>Modifica</source>
         <translation>Modifier</translation>
     </message>
@@ -1801,7 +2145,7 @@ Raison sociale</translation>
         <translation>Sortie</translation>
     </message>
     <message>
-        <location line="+46"/>
+        <location line="+48"/>
         <source>Città</source>
         <translation>Ville</translation>
     </message>
@@ -1908,6 +2252,74 @@ Raison sociale</translation>
         <location line="+12"/>
         <source>Id</source>
         <translation>Id</translation>
+    </message>
+</context>
+<context>
+    <name>ViewInstallation</name>
+    <message>
+        <location filename="../../../archive/viewinstallation.cpp" line="+14"/>
+        <source>Installazione</source>
+        <translation>Installation</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Installazione Id</source>
+        <translation>Id installation</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Città</source>
+        <translation>Ville</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>CAP</source>
+        <translation>CP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Prov.</source>
+        <translation>Dép.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Via</source>
+        <translation>Rue</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Num. di stringhe</source>
+        <translation>Nb. de chaînes</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Potenza Nom.</source>
+        <translation>Puissance nom.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Misure Modulo</source>
+        <translation>Mesures module</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Stringhe</source>
+        <translation>Mesures chaînes</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Visualizza Grafico</source>
+        <translation>Afficher graphique</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Vuoto</source>
+        <translation>Vide</translation>
     </message>
 </context>
 </TS>

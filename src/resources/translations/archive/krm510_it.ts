@@ -35,6 +35,39 @@
     </message>
 </context>
 <context>
+    <name>ArchiveInstallation</name>
+    <message>
+        <location filename="../../../archive/archiveinstallation.cpp" line="+12"/>
+        <source>Archivio Installazioni</source>
+        <translation>Archivio Installazioni</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Nuova</source>
+        <translation>Nuova</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Modifica</source>
+        <translation>Modifica</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cancella</source>
+        <translation>Cancella</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Elenco</source>
+        <translation>Elenco</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+</context>
+<context>
     <name>ArchiveMeasures</name>
     <message>
         <location filename="../../../archive/archivemeasures.cpp" line="+26"/>
@@ -370,6 +403,148 @@ Denominazione</translation>
         <location line="+3"/>
         <source>Aggiornamento Azienda</source>
         <translation>Aggiornamento Azienda</translation>
+    </message>
+    <message>
+        <location line="-3"/>
+        <source>Eseguito con successo.</source>
+        <translation>Eseguito con successo.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Aggiornamento non riuscito.</source>
+        <translation>Aggiornamento non riuscito.</translation>
+    </message>
+</context>
+<context>
+    <name>EditInstallation</name>
+    <message>
+        <location filename="../../../archive/editinstallation.cpp" line="+9"/>
+        <location line="+60"/>
+        <location line="+3"/>
+        <source>Modifica Installazione</source>
+        <translation>Modifica Installazione</translation>
+    </message>
+    <message>
+        <location line="-62"/>
+        <location line="+7"/>
+        <source>Installazione Id</source>
+        <translation>Installazione Id</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Città</source>
+        <translation>Città</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>CAP</source>
+        <translation>CAP</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Via</source>
+        <translation>Via</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <source>Num. di stringhe</source>
+        <translation>Num. di stringhe</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nom.</source>
+        <translation>Potenza Nom.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Numero delle stringhe</source>
+        <translation>Numero delle stringhe</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Potenza Nominale</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>kW</source>
+        <translation>kW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Testo inserito non valido.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito</source>
+        <translation>Testo inserito</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Troppo lungo.</source>
+        <translation>Troppo lungo.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Numero non valido.</source>
+        <translation>Numero non valido.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Modulo</source>
+        <translation>Misure Modulo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Stringhe</source>
+        <translation>Misure Stringhe</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misura inserita</source>
+        <translation>Misura Inserita</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>Già presente.</source>
+        <translation>Già presente.</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>Misure inserita</source>
+        <translation>Misure inserita</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Salva</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <location line="+3"/>
+        <source>Aggiornameno Installazione</source>
+        <translation>Aggiornamento installazione</translation>
     </message>
     <message>
         <location line="-3"/>
@@ -1252,6 +1427,147 @@ Denominazione</translation>
     </message>
 </context>
 <context>
+    <name>InsertInstallation</name>
+    <message>
+        <location filename="../../../archive/insertinstallation.cpp" line="+9"/>
+        <location line="+47"/>
+        <location line="+3"/>
+        <source>Inserimento Installazione</source>
+        <translation>Inserimento Installazione</translation>
+    </message>
+    <message>
+        <location line="-49"/>
+        <location line="+7"/>
+        <source>Installazione Id</source>
+        <translation>Installazione Id</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Città</source>
+        <translation>Città</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>CAP</source>
+        <translation>CAP</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <location line="+7"/>
+        <source>Via</source>
+        <translation>Via</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <source>Num. di stringhe</source>
+        <translation>Num. di stringhe</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nom.</source>
+        <translation>Potenza Nom.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Numero delle stringhe</source>
+        <translation>Numero delle stringhe</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Potenza Nominale</source>
+        <translation>Potenza Nominale</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>kW</source>
+        <translation>kW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito non valido.</source>
+        <translation>Testo inserito non valido.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testo inserito</source>
+        <translation>Testo inserito</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Troppo lungo.</source>
+        <translation>Troppo lungo.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Numero non valido.</source>
+        <translation>Numero non valido.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Moduli</source>
+        <translation>Misure Moduli</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Stringhe</source>
+        <translation>Misure Stringhe</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>Misura inserita</source>
+        <translation>Misura Inserita</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>Già presente.</source>
+        <translation>Già presente.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source> già presente.</source>
+        <translation> già presente.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Salva</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Installazione</source>
+        <translation>Installazione</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Nome dell&apos;installazione già presente.</source>
+        <translation>Nome dell&apos;installazione gia&apos; presente.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Installazione Salvata.</source>
+        <translation>Installazione Salvata.</translation>
+    </message>
+</context>
+<context>
     <name>ListCompany</name>
     <message>
         <location filename="../../../archive/listcompany.cpp" line="+13"/>
@@ -1277,6 +1593,34 @@ Denominazione</translation>
         <location line="+0"/>
         <source>Cod.</source>
         <translation>Cod.</translation>
+    </message>
+</context>
+<context>
+    <name>ListInstallation</name>
+    <message>
+        <location filename="../../../archive/listinstallation.cpp" line="+13"/>
+        <source>Lista Installazioni</source>
+        <translation>Lista installazioni</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Apri</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Id</source>
+        <translation>Id</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Città</source>
+        <translation>Città</translation>
     </message>
 </context>
 <context>
@@ -1764,7 +2108,7 @@ Denominazione</translation>
 <context>
     <name>SelectInstallation</name>
     <message>
-        <location filename="../../../archive/selectinstallation.cpp" line="+22"/>
+        <location filename="../../../archive/selectinstallation.cpp" line="+23"/>
         <source>Agg.</source>
         <translation>Agg.</translation>
     </message>
@@ -1780,13 +2124,13 @@ Denominazione</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+82"/>
+        <location line="+84"/>
         <location line="+1"/>
         <source>Cancella Installazione</source>
         <translation>Cancella Installazione</translation>
     </message>
     <message>
-        <location line="-81"/>
+        <location line="-83"/>
         <source>Modifica</source>
         <translation>Modifica</translation>
     </message>
@@ -1801,7 +2145,7 @@ Denominazione</translation>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+46"/>
+        <location line="+48"/>
         <source>Città</source>
         <translation>Città</translation>
     </message>
@@ -1908,6 +2252,74 @@ Denominazione</translation>
         <location line="+12"/>
         <source>Id</source>
         <translation>Id</translation>
+    </message>
+</context>
+<context>
+    <name>ViewInstallation</name>
+    <message>
+        <location filename="../../../archive/viewinstallation.cpp" line="+14"/>
+        <source>Installazione</source>
+        <translation>Installazione</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Installazione Id</source>
+        <translation>Installazione Id</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Città</source>
+        <translation>Città</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>CAP</source>
+        <translation>CAP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Prov.</source>
+        <translation>Prov.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Via</source>
+        <translation>Via</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Num. di stringhe</source>
+        <translation>Num. di stringhe</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Potenza Nom.</source>
+        <translation>Potenza Nom.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Misure Modulo</source>
+        <translation>Misure Modulo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Misure Stringhe</source>
+        <translation>Misure Stringhe</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Visualizza Grafico</source>
+        <translation>Visualizza Grafico</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Vuoto</source>
+        <translation>Vuoto</translation>
     </message>
 </context>
 </TS>

@@ -4,12 +4,12 @@
 <context>
     <name>Orvia</name>
     <message>
-        <location filename="../../../shell/orvia.cpp" line="+63"/>
+        <location filename="../../../shell/orvia.cpp" line="+65"/>
         <source>Brask</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+49"/>
+        <location line="+52"/>
         <source>Sistema</source>
         <translation>Sistema</translation>
     </message>
