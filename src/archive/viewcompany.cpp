@@ -1,5 +1,6 @@
 #include "archive/viewcompany.h"
 
+#include "archive/viewinstallation.h"
 #include "data/datainstallation.h"
 #include "data/storedtext.h"
 #include "toolkit/tabcolumns.h"
@@ -43,6 +44,7 @@ ViewCompany::ViewCompany(QWidget* parent, _company* company)
     form->addWidget(_listInstallation, 1);
     addInstallationOnList();
     connect(_listInstallation, &QListWidget::itemPressed, this, &ViewCompany::goToEnableView);
+    connect(_buttonView, &QPushButton::clicked, this, &ViewCompany::goToViewInstallation);
     connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
     showForm(form, {_buttonView, _buttonExit}, true);
 }
@@ -76,6 +78,21 @@ void ViewCompany::goToEnableView()
     _buttonView->setEnabled(true);
 }
 
+// The installation of the touched row; the header row opens nothing.
+void ViewCompany::goToViewInstallation()
+{
+    QListWidgetItem* item = _listInstallation->currentItem();
+    if (item == nullptr || !_rowFile.contains(item->text()))
+        return;
+    _installation* in = readInstallationFromFile(_rowFile.value(item->text()).constData());
+    if (in == nullptr)
+        return; // its file has gone since the list was read
+    ViewInstallation* screen = new ViewInstallation(this, in);
+    screen->exec();
+    delete screen;
+    freeInstallation(in);
+}
+
 QList<QWidget*> ViewCompany::focusChain() const
 {
     return {_listInstallation, _buttonView, _buttonExit};
@@ -85,6 +102,8 @@ void ViewCompany::returnOn(QWidget* focused)
 {
     if (focused == _listInstallation)
         goToEnableView();
+    else if (focused == _buttonView && _buttonView->isEnabled())
+        goToViewInstallation();
     else if (focused == _buttonExit)
         reject();
 }

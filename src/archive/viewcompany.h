@@ -21,6 +21,7 @@ public:
 
 public slots:
     void goToEnableView();
+    void goToViewInstallation();
 
 protected:
     QList<QWidget*> focusChain() const override;

@@ -443,7 +443,7 @@ private slots:
         QCOMPARE(d.result(), int(QDialog::Accepted));
     }
 
-    void listShowsTheHeaderThenSurnameAndCodeSortedAndOpensTheCompany()
+    void listShowsTheHeaderThenSurnameAndCodeSortedAndOpensTheCompanyAndItsInstallation()
     {
         TestRoot root(0.001);
         addCompany("Rossi", "Marco", "C0042", "Via Roma 1", {"tetto"});
@@ -460,7 +460,9 @@ private slots:
         touch(button(&d, "Apri")); // the header opens nothing
         list->setCurrentRow(2);
         ModalDriver driver;
-        driver.onWindow("ViewCompany", [](QWidget* w) {
+        ModalDriver inner; // what the company's view opens
+        QString opened;
+        driver.onWindow("ViewCompany", [&](QWidget* w) {
             QCOMPARE(w->findChild<QLabel*>("field0")->text(),
                      QString("Cognome \\ Denominazione : Rossi"));
             QListWidget* inst = w->findChild<QListWidget*>("installations");
@@ -471,10 +473,18 @@ private slots:
             QTest::mouseClick(inst->viewport(), Qt::LeftButton, {},
                               inst->visualItemRect(inst->item(1)).center());
             QVERIFY(view->isEnabled());
+            // "Visualizza" opens the installation of the row
+            inner.onWindow("ViewInstallation", [&](QWidget* v) {
+                opened = v->findChild<QLabel*>("field0")->text();
+                qobject_cast<QDialog*>(v)->reject();
+            });
+            touch(view);
             qobject_cast<QDialog*>(w)->reject();
         });
         touch(button(&d, "Apri"));
         QCOMPARE(driver.pending(), 0);
+        QCOMPARE(inner.pending(), 0);
+        QCOMPARE(opened, QString("Installazione Id : Tetto"));
     }
 
     void menuOpensEachScreenAndTheKeysWalkIt()
