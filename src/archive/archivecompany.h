@@ -1,10 +1,10 @@
 #ifndef KRM_ARCHIVE_ARCHIVECOMPANY_H
 #define KRM_ARCHIVE_ARCHIVECOMPANY_H
 
-#include "archive/formdialog.h"
+#include "archive/recordmenu.h"
 
 // The menu of the company archive.
-class ArchiveCompany : public FormDialog
+class ArchiveCompany : public RecordMenu
 {
     Q_OBJECT
 public:
@@ -15,17 +15,6 @@ public slots:
     void goToSelectCompany();
     void goToDeleteCompany();
     void goToListCompany();
-
-protected:
-    QList<QWidget*> focusChain() const override;
-    void returnOn(QWidget* focused) override;
-
-private:
-    QPushButton* _buttonNew;
-    QPushButton* _buttonEdit;
-    QPushButton* _buttonDelete;
-    QPushButton* _buttonList;
-    QPushButton* _buttonExit;
 };
 
 #endif

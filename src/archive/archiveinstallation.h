@@ -1,10 +1,10 @@
 #ifndef KRM_ARCHIVE_ARCHIVEINSTALLATION_H
 #define KRM_ARCHIVE_ARCHIVEINSTALLATION_H
 
-#include "archive/formdialog.h"
+#include "archive/recordmenu.h"
 
 // The menu of the installation archive.
-class ArchiveInstallation : public FormDialog
+class ArchiveInstallation : public RecordMenu
 {
     Q_OBJECT
 public:
@@ -15,17 +15,6 @@ public slots:
     void goToSelectInstallation();
     void goToDeleteInstallation();
     void goToListInstallation();
-
-protected:
-    QList<QWidget*> focusChain() const override;
-    void returnOn(QWidget* focused) override;
-
-private:
-    QPushButton* _buttonNew;
-    QPushButton* _buttonEdit;
-    QPushButton* _buttonDelete;
-    QPushButton* _buttonList;
-    QPushButton* _buttonExit;
 };
 
 #endif

@@ -1,16 +1,12 @@
 #ifndef KRM_ARCHIVE_LISTCOMPANY_H
 #define KRM_ARCHIVE_LISTCOMPANY_H
 
-#include "archive/formdialog.h"
+#include "archive/recordlist.h"
 #include "data/coredata.h"
-
-#include <QMap>
-
-class QListWidget;
 
 // Every company, surname and code, sorted under a header row; "Apri" shows
 // the company of the row.
-class ListCompany : public FormDialog
+class ListCompany : public RecordList
 {
     Q_OBJECT
 public:
@@ -22,16 +18,6 @@ public:
 
 public slots:
     void goToViewCompany();
-
-protected:
-    QList<QWidget*> focusChain() const override;
-    void returnOn(QWidget* focused) override;
-
-private:
-    QMap<QString, QByteArray> _rowFile;
-    QListWidget* _list;
-    QPushButton* _buttonOpen;
-    QPushButton* _buttonExit;
 };
 
 #endif

@@ -3,27 +3,12 @@
 #include "archive/viewinstallation.h"
 #include "data/datainstallation.h"
 #include "data/storedtext.h"
-#include "toolkit/tabcolumns.h"
-
-#include <QListWidget>
-#include <QPushButton>
-#include <QVBoxLayout>
 
 ListInstallation::ListInstallation(QWidget* parent)
-    : FormDialog(parent, "ListInstallation", tr("Lista Installazioni"), 24)
+    : RecordList(parent, "ListInstallation", tr("Lista Installazioni"), tr("Apri"), tr("Exit"))
 {
-    _list = new QListWidget;
-    _list->setObjectName("list");
-    new TabColumns(_list);
-    _buttonOpen = formButton(":/icon/archiveList.png", tr("Apri"), "Apri");
-    _buttonExit = formButton(":/icon/exit.png", tr("Exit"), "Exit");
-    QVBoxLayout* form = new QVBoxLayout;
-    form->addWidget(_list, 1);
     readInstallationData();
-    connect(_buttonOpen, &QPushButton::clicked, this,
-            &ListInstallation::goToViewInstallationForGraphView);
-    connect(_buttonExit, &QPushButton::clicked, this, &QDialog::reject);
-    showForm(form, {_buttonOpen, _buttonExit}, true);
+    showList([this] { goToViewInstallationForGraphView(); });
 }
 
 QString ListInstallation::headerListInstallation() const
@@ -38,7 +23,6 @@ QString ListInstallation::createItemForList(_installation* installation) const
 
 void ListInstallation::readInstallationData()
 {
-    _list->clear();
     _rowFile.clear();
     _listInstallation* head = readListInstallation(this);
     QStringList rows;
@@ -52,34 +36,10 @@ void ListInstallation::readInstallationData()
         freeInstallation(in);
     }
     closeListInstallation(head);
-    rows.sort();
-    _list->addItem(headerListInstallation());
-    _list->addItems(rows);
+    showRows(headerListInstallation(), rows);
 }
 
 void ListInstallation::goToViewInstallationForGraphView()
 {
-    QListWidgetItem* item = _list->currentItem();
-    if (item == nullptr || !_rowFile.contains(item->text()))
-        return; // the header row opens nothing
-    _installation* in = readInstallationFromFile(_rowFile.value(item->text()).constData());
-    if (in == nullptr)
-        return;
-    ViewInstallation* screen = new ViewInstallation(this, in);
-    screen->exec();
-    delete screen;
-    freeInstallation(in);
-}
-
-QList<QWidget*> ListInstallation::focusChain() const
-{
-    return {_list, _buttonOpen, _buttonExit};
-}
-
-void ListInstallation::returnOn(QWidget* focused)
-{
-    if (focused == _buttonOpen)
-        goToViewInstallationForGraphView();
-    else if (focused == _buttonExit)
-        reject();
+    ViewInstallation::openFile(this, currentFile()); // the header row opens nothing
 }

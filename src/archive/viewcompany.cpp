@@ -81,16 +81,9 @@ void ViewCompany::goToEnableView()
 // The installation of the touched row; the header row opens nothing.
 void ViewCompany::goToViewInstallation()
 {
-    QListWidgetItem* item = _listInstallation->currentItem();
-    if (item == nullptr || !_rowFile.contains(item->text()))
-        return;
-    _installation* in = readInstallationFromFile(_rowFile.value(item->text()).constData());
-    if (in == nullptr)
-        return; // its file has gone since the list was read
-    ViewInstallation* screen = new ViewInstallation(this, in);
-    screen->exec();
-    delete screen;
-    freeInstallation(in);
+    const QListWidgetItem* item = _listInstallation->currentItem();
+    if (item != nullptr)
+        ViewInstallation::openFile(this, _rowFile.value(item->text()));
 }
 
 QList<QWidget*> ViewCompany::focusChain() const

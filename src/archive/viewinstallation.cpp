@@ -1,5 +1,6 @@
 #include "archive/viewinstallation.h"
 
+#include "data/datainstallation.h"
 #include "data/datameasures.h"
 #include "data/storedtext.h"
 #include "measure/viewmeasures.h"
@@ -9,6 +10,19 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+void ViewInstallation::openFile(QWidget* parent, const QByteArray& file)
+{
+    if (file.isEmpty())
+        return;
+    _installation* in = readInstallationFromFile(file.constData());
+    if (in == nullptr)
+        return; // its file has gone since the list was read
+    ViewInstallation* screen = new ViewInstallation(parent, in);
+    screen->exec();
+    delete screen;
+    freeInstallation(in);
+}
 
 ViewInstallation::ViewInstallation(QWidget* parent, _installation* installation)
     : FormDialog(parent, "ViewInstallation", tr("Installazione"), 20), _record(installation),

@@ -17,6 +17,9 @@ class ViewInstallation : public FormDialog
     Q_OBJECT
 public:
     ViewInstallation(QWidget* parent, _installation* installation);
+    // Shows the installation stored in a file; nothing when the file is
+    // empty or can no longer be read.
+    static void openFile(QWidget* parent, const QByteArray& file);
 
     void addMeaPanelList();
     void addMeaStringList();

@@ -4,32 +4,32 @@
 <context>
     <name>ArchiveCompany</name>
     <message>
-        <location filename="../../../archive/archivecompany.cpp" line="+12"/>
+        <location filename="../../../archive/archivecompany.cpp" line="+8"/>
         <source>Archivio Aziende</source>
         <translation>Company archive</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Nuova</source>
         <translation>New</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Modifica</source>
         <translation>Edit</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Cancella</source>
         <translation>Delete</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Elenco</source>
         <translation>List</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
@@ -37,32 +37,32 @@
 <context>
     <name>ArchiveInstallation</name>
     <message>
-        <location filename="../../../archive/archiveinstallation.cpp" line="+12"/>
+        <location filename="../../../archive/archiveinstallation.cpp" line="+8"/>
         <source>Archivio Installazioni</source>
         <translation>Installation archive</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Nuova</source>
         <translation>New</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Modifica</source>
         <translation>Edit</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Cancella</source>
         <translation>Delete</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Elenco</source>
         <translation>List</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
@@ -1570,22 +1570,22 @@ Company name</translation>
 <context>
     <name>ListCompany</name>
     <message>
-        <location filename="../../../archive/listcompany.cpp" line="+13"/>
+        <location filename="../../../archive/listcompany.cpp" line="+8"/>
         <source>Lista Aziende</source>
         <translation>Company list</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+0"/>
         <source>Apri</source>
         <translation>Open</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+8"/>
         <source>Cogn./Denom.</source>
         <translation>Surn./Name</translation>
     </message>
@@ -1598,22 +1598,22 @@ Company name</translation>
 <context>
     <name>ListInstallation</name>
     <message>
-        <location filename="../../../archive/listinstallation.cpp" line="+13"/>
+        <location filename="../../../archive/listinstallation.cpp" line="+8"/>
         <source>Lista Installazioni</source>
         <translation>Installation list</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+0"/>
         <source>Apri</source>
         <translation>Open</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+8"/>
         <source>Id</source>
         <translation>Id</translation>
     </message>
@@ -2183,7 +2183,7 @@ Company name</translation>
 <context>
     <name>ViewCompany</name>
     <message>
-        <location filename="../../../archive/viewcompany.cpp" line="+14"/>
+        <location filename="../../../archive/viewcompany.cpp" line="+15"/>
         <source>Visualizza Azienda</source>
         <translation>View company</translation>
     </message>
@@ -2209,12 +2209,12 @@ Company name</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+32"/>
+        <location line="+33"/>
         <source>Città</source>
         <translation>City</translation>
     </message>
     <message>
-        <location line="-31"/>
+        <location line="-32"/>
         <source>CAP</source>
         <translation>ZIP</translation>
     </message>
@@ -2249,7 +2249,7 @@ Company name</translation>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+13"/>
         <source>Id</source>
         <translation>Id</translation>
     </message>
@@ -2257,7 +2257,7 @@ Company name</translation>
 <context>
     <name>ViewInstallation</name>
     <message>
-        <location filename="../../../archive/viewinstallation.cpp" line="+14"/>
+        <location filename="../../../archive/viewinstallation.cpp" line="+28"/>
         <source>Installazione</source>
         <translation>Installation</translation>
     </message>

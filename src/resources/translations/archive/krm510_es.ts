@@ -4,32 +4,32 @@
 <context>
     <name>ArchiveCompany</name>
     <message>
-        <location filename="../../../archive/archivecompany.cpp" line="+12"/>
+        <location filename="../../../archive/archivecompany.cpp" line="+8"/>
         <source>Archivio Aziende</source>
         <translation>Archivo empresas</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Nuova</source>
         <translation>Nueva</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Modifica</source>
         <translation>Modificar</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Cancella</source>
         <translation>Borrar</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Elenco</source>
         <translation>Lista</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Salir</translation>
     </message>
@@ -37,32 +37,32 @@
 <context>
     <name>ArchiveInstallation</name>
     <message>
-        <location filename="../../../archive/archiveinstallation.cpp" line="+12"/>
+        <location filename="../../../archive/archiveinstallation.cpp" line="+8"/>
         <source>Archivio Installazioni</source>
         <translation>Archivo instalaciones</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Nuova</source>
         <translation>Nueva</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Modifica</source>
         <translation>Modificar</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Cancella</source>
         <translation>Borrar</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Elenco</source>
         <translation>Lista</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Salir</translation>
     </message>
@@ -1570,22 +1570,22 @@ Denominación</translation>
 <context>
     <name>ListCompany</name>
     <message>
-        <location filename="../../../archive/listcompany.cpp" line="+13"/>
+        <location filename="../../../archive/listcompany.cpp" line="+8"/>
         <source>Lista Aziende</source>
         <translation>Lista empresas</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+0"/>
         <source>Apri</source>
         <translation>Abrir</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Salir</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+8"/>
         <source>Cogn./Denom.</source>
         <translation>Apell./Denom.</translation>
     </message>
@@ -1598,22 +1598,22 @@ Denominación</translation>
 <context>
     <name>ListInstallation</name>
     <message>
-        <location filename="../../../archive/listinstallation.cpp" line="+13"/>
+        <location filename="../../../archive/listinstallation.cpp" line="+8"/>
         <source>Lista Installazioni</source>
         <translation>Lista instalaciones</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+0"/>
         <source>Apri</source>
         <translation>Abrir</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Salir</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+8"/>
         <source>Id</source>
         <translation>Id</translation>
     </message>
@@ -2183,7 +2183,7 @@ Denominación</translation>
 <context>
     <name>ViewCompany</name>
     <message>
-        <location filename="../../../archive/viewcompany.cpp" line="+14"/>
+        <location filename="../../../archive/viewcompany.cpp" line="+15"/>
         <source>Visualizza Azienda</source>
         <translation>Ver empresa</translation>
     </message>
@@ -2209,12 +2209,12 @@ Denominación</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+32"/>
+        <location line="+33"/>
         <source>Città</source>
         <translation>Ciudad</translation>
     </message>
     <message>
-        <location line="-31"/>
+        <location line="-32"/>
         <source>CAP</source>
         <translation>CP</translation>
     </message>
@@ -2249,7 +2249,7 @@ Denominación</translation>
         <translation>Salir</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+13"/>
         <source>Id</source>
         <translation>Id</translation>
     </message>
@@ -2257,7 +2257,7 @@ Denominación</translation>
 <context>
     <name>ViewInstallation</name>
     <message>
-        <location filename="../../../archive/viewinstallation.cpp" line="+14"/>
+        <location filename="../../../archive/viewinstallation.cpp" line="+28"/>
         <source>Installazione</source>
         <translation>Instalación</translation>
     </message>

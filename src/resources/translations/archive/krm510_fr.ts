@@ -4,32 +4,32 @@
 <context>
     <name>ArchiveCompany</name>
     <message>
-        <location filename="../../../archive/archivecompany.cpp" line="+12"/>
+        <location filename="../../../archive/archivecompany.cpp" line="+8"/>
         <source>Archivio Aziende</source>
         <translation>Archives entreprises</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Nuova</source>
         <translation>Nouvelle</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Modifica</source>
         <translation>Modifier</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Cancella</source>
         <translation>Effacer</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Elenco</source>
         <translation>Liste</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Sortie</translation>
     </message>
@@ -37,32 +37,32 @@
 <context>
     <name>ArchiveInstallation</name>
     <message>
-        <location filename="../../../archive/archiveinstallation.cpp" line="+12"/>
+        <location filename="../../../archive/archiveinstallation.cpp" line="+8"/>
         <source>Archivio Installazioni</source>
         <translation>Archive installations</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Nuova</source>
         <translation>Nouvelle</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Modifica</source>
         <translation>Modifier</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Cancella</source>
         <translation>Effacer</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Elenco</source>
         <translation>Liste</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Sortie</translation>
     </message>
@@ -1570,22 +1570,22 @@ Raison sociale</translation>
 <context>
     <name>ListCompany</name>
     <message>
-        <location filename="../../../archive/listcompany.cpp" line="+13"/>
+        <location filename="../../../archive/listcompany.cpp" line="+8"/>
         <source>Lista Aziende</source>
         <translation>Liste entreprises</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+0"/>
         <source>Apri</source>
         <translation>Ouvrir</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Sortie</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+8"/>
         <source>Cogn./Denom.</source>
         <translation>Nom/Raison</translation>
     </message>
@@ -1598,22 +1598,22 @@ Raison sociale</translation>
 <context>
     <name>ListInstallation</name>
     <message>
-        <location filename="../../../archive/listinstallation.cpp" line="+13"/>
+        <location filename="../../../archive/listinstallation.cpp" line="+8"/>
         <source>Lista Installazioni</source>
         <translation>Liste installations</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+0"/>
         <source>Apri</source>
         <translation>Ouvrir</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Sortie</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+8"/>
         <source>Id</source>
         <translation>Id</translation>
     </message>
@@ -2183,7 +2183,7 @@ Raison sociale</translation>
 <context>
     <name>ViewCompany</name>
     <message>
-        <location filename="../../../archive/viewcompany.cpp" line="+14"/>
+        <location filename="../../../archive/viewcompany.cpp" line="+15"/>
         <source>Visualizza Azienda</source>
         <translation>Afficher entreprise</translation>
     </message>
@@ -2209,12 +2209,12 @@ Raison sociale</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+32"/>
+        <location line="+33"/>
         <source>Città</source>
         <translation>Ville</translation>
     </message>
     <message>
-        <location line="-31"/>
+        <location line="-32"/>
         <source>CAP</source>
         <translation>CP</translation>
     </message>
@@ -2249,7 +2249,7 @@ Raison sociale</translation>
         <translation>Sortie</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+13"/>
         <source>Id</source>
         <translation>Id</translation>
     </message>
@@ -2257,7 +2257,7 @@ Raison sociale</translation>
 <context>
     <name>ViewInstallation</name>
     <message>
-        <location filename="../../../archive/viewinstallation.cpp" line="+14"/>
+        <location filename="../../../archive/viewinstallation.cpp" line="+28"/>
         <source>Installazione</source>
         <translation>Installation</translation>
     </message>

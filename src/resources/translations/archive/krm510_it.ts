@@ -4,32 +4,32 @@
 <context>
     <name>ArchiveCompany</name>
     <message>
-        <location filename="../../../archive/archivecompany.cpp" line="+12"/>
+        <location filename="../../../archive/archivecompany.cpp" line="+8"/>
         <source>Archivio Aziende</source>
         <translation>Archivio Aziende</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Nuova</source>
         <translation>Nuova</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Modifica</source>
         <translation>Modifica</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Cancella</source>
         <translation>Cancella</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Elenco</source>
         <translation>Elenco</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
@@ -37,32 +37,32 @@
 <context>
     <name>ArchiveInstallation</name>
     <message>
-        <location filename="../../../archive/archiveinstallation.cpp" line="+12"/>
+        <location filename="../../../archive/archiveinstallation.cpp" line="+8"/>
         <source>Archivio Installazioni</source>
         <translation>Archivio Installazioni</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Nuova</source>
         <translation>Nuova</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Modifica</source>
         <translation>Modifica</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Cancella</source>
         <translation>Cancella</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Elenco</source>
         <translation>Elenco</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
@@ -1570,22 +1570,22 @@ Denominazione</translation>
 <context>
     <name>ListCompany</name>
     <message>
-        <location filename="../../../archive/listcompany.cpp" line="+13"/>
+        <location filename="../../../archive/listcompany.cpp" line="+8"/>
         <source>Lista Aziende</source>
         <translation>Lista Aziende</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+0"/>
         <source>Apri</source>
         <translation>Apri</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+8"/>
         <source>Cogn./Denom.</source>
         <translation>Cogn./Denom.</translation>
     </message>
@@ -1598,22 +1598,22 @@ Denominazione</translation>
 <context>
     <name>ListInstallation</name>
     <message>
-        <location filename="../../../archive/listinstallation.cpp" line="+13"/>
+        <location filename="../../../archive/listinstallation.cpp" line="+8"/>
         <source>Lista Installazioni</source>
         <translation>Lista installazioni</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+0"/>
         <source>Apri</source>
         <translation>Apri</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+0"/>
         <source>Exit</source>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+8"/>
         <source>Id</source>
         <translation>Id</translation>
     </message>
@@ -2183,7 +2183,7 @@ Denominazione</translation>
 <context>
     <name>ViewCompany</name>
     <message>
-        <location filename="../../../archive/viewcompany.cpp" line="+14"/>
+        <location filename="../../../archive/viewcompany.cpp" line="+15"/>
         <source>Visualizza Azienda</source>
         <translation>Visualizza Azienda</translation>
     </message>
@@ -2209,12 +2209,12 @@ Denominazione</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+32"/>
+        <location line="+33"/>
         <source>Città</source>
         <translation>Città</translation>
     </message>
     <message>
-        <location line="-31"/>
+        <location line="-32"/>
         <source>CAP</source>
         <translation>CAP</translation>
     </message>
@@ -2249,7 +2249,7 @@ Denominazione</translation>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+13"/>
         <source>Id</source>
         <translation>Id</translation>
     </message>
@@ -2257,7 +2257,7 @@ Denominazione</translation>
 <context>
     <name>ViewInstallation</name>
     <message>
-        <location filename="../../../archive/viewinstallation.cpp" line="+14"/>
+        <location filename="../../../archive/viewinstallation.cpp" line="+28"/>
         <source>Installazione</source>
         <translation>Installazione</translation>
     </message>
