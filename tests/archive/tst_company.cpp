@@ -79,16 +79,22 @@ class TestCompany : public QObject
 
     // The company of the form and the record EditCompany is given.
     struct Edited {
+        _listCompany* head = nullptr;
         _listCompany* list = nullptr;
         _company* record = nullptr;
         explicit Edited(const char* file)
         {
-            list = readListCompany(nullptr);
+            head = readListCompany(nullptr);
+            list = head;
             while (list != nullptr && strcmp(list->file, file) != 0)
                 list = list->next; // the test's list holds one or two companies
             record = readCompanyFromFile(file);
         }
-        ~Edited() { freeCompany(record); }
+        ~Edited()
+        {
+            freeCompany(record);
+            closeListCompany(head);
+        }
     };
 
 public:
