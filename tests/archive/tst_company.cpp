@@ -336,7 +336,6 @@ private slots:
         QCOMPARE(QByteArray(c->surn), QByteArray("Rossi Marco"));
         QCOMPARE(QByteArray(c->headInst->file), QByteArray("tetto"));
         freeCompany(c);
-        closeListCompany(e.list);
     }
 
     // The old instrument's update left a cut file in the old one's place when
@@ -359,7 +358,6 @@ private slots:
         QCOMPARE(driver.boxes.last().informative, QString("Aggiornamento non riuscito."));
         QCOMPARE(companyFile(root, "rossi"), before);
         QCOMPARE(companyFiles(root), QStringList{"rossi"});
-        closeListCompany(e.list);
     }
 
     void resetOfTheEditFormReloadsTheCompanyAndItsInstallations()
@@ -382,7 +380,6 @@ private slots:
         for (int i = 0; i < combo->count(); i++)
             rows << combo->itemText(i);
         QVERIFY(rows.contains(" (/ )")); // an installation whose file has gone
-        closeListCompany(e.list);
     }
 
     // ---- Choosing, deleting, listing, viewing
@@ -595,7 +592,6 @@ private slots:
             Edited e("rossi_impianti");
             EditCompany d(nullptr, e.list, e.record);
             shoot(&d, "company-edit");
-            closeListCompany(e.list);
         }
         {
             InsertCompany d(nullptr);
