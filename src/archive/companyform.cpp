@@ -4,7 +4,6 @@
 #include "archive/selectinstallation.h"
 #include "data/datacompany.h"
 #include "data/storedtext.h"
-#include "toolkit/embkeyboard.h"
 #include "toolkit/messagebox.h"
 
 #include <QComboBox>
@@ -67,18 +66,14 @@ void CompanyForm::editLineObject(QObject* obj)
         field++;
     if (field == COMPANY_FIELDS)
         return;
-    QMessageBox* box =
-        newMessageBox(this, QMessageBox::Information, _texts.boxTitle, _texts.invalid);
-    EmbKeyboard* keyboard = new EmbKeyboard(this, QString(), QString());
-    keyboard->setWindowTitle(_texts.keyboardTitle[field]);
-    keyboard->setInitString(_edit[field]->text());
-    if (field == ZIP)
-        keyboard->toKeyPad();
-    if (keyboard->exec() == QDialog::Accepted)
-        takeEntered(field, keyboard->stringEntered(), box);
+    QString text;
+    if (typeInto(_edit[field], _texts.keyboardTitle[field], field == ZIP, &text)) {
+        QMessageBox* box =
+            newMessageBox(this, QMessageBox::Information, _texts.boxTitle, _texts.invalid);
+        takeEntered(field, text, box);
+        delete box;
+    }
     updateSaveButton();
-    delete keyboard;
-    delete box;
 }
 
 void CompanyForm::takeEntered(int field, QString text, QMessageBox* box)

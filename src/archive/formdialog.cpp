@@ -1,6 +1,7 @@
 #include "archive/formdialog.h"
 
 #include "archive/archiveform.h"
+#include "toolkit/embkeyboard.h"
 #include "toolkit/infobar.h"
 
 #include <QEvent>
@@ -47,6 +48,21 @@ QPushButton* FormDialog::formButton(const char* icon, const QString& text, const
     QPushButton* button = new QPushButton(QIcon(icon), text);
     button->setObjectName(name);
     return button;
+}
+
+bool FormDialog::typeInto(const QLineEdit* edit, const QString& title, bool keyPad,
+                          QString* entered)
+{
+    EmbKeyboard* keyboard = new EmbKeyboard(this, QString(), QString());
+    keyboard->setWindowTitle(title);
+    keyboard->setInitString(edit->text());
+    if (keyPad)
+        keyboard->toKeyPad();
+    const bool accepted = keyboard->exec() == QDialog::Accepted;
+    if (accepted)
+        *entered = keyboard->stringEntered();
+    delete keyboard;
+    return accepted;
 }
 
 void FormDialog::showForm(QLayout* form, const QList<QPushButton*>& buttons, bool fill)

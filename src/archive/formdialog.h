@@ -46,6 +46,10 @@ protected:
     QLineEdit* formLine(QGridLayout* grid, const char* name, const QString& label,
                         const QString& unit, int row, int column, int width);
     QPushButton* formButton(const char* icon, const QString& text, const char* name);
+    // The keyboard on one line edit of the form, with its title and the
+    // edit's text (the key pad for a number); true, with the text entered,
+    // when the operator accepted it.
+    bool typeInto(const QLineEdit* edit, const QString& title, bool keyPad, QString* entered);
     // Lays out the status bar, the form and the row of buttons, and shows the
     // screen maximised; modal from the first show, as exec() on a shown
     // window would not make it so. A form of lists takes the whole height

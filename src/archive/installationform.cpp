@@ -4,7 +4,6 @@
 #include "data/datainstallation.h"
 #include "data/datameasures.h"
 #include "data/storedtext.h"
-#include "toolkit/embkeyboard.h"
 #include "toolkit/messagebox.h"
 #include "toolkit/numbertext.h"
 
@@ -76,18 +75,15 @@ void InstallationForm::editLineObject(QObject* obj)
         field++;
     if (field == INSTALLATION_FIELDS)
         return;
-    QMessageBox* box =
-        newMessageBox(this, QMessageBox::Information, _texts.boxTitle, _texts.invalid);
-    EmbKeyboard* keyboard = new EmbKeyboard(this, QString(), QString());
-    keyboard->setWindowTitle(_texts.keyboardTitle[field]);
-    keyboard->setInitString(_edit[field]->text());
-    if (field == INST_NSTRI || field == INST_NPOWE)
-        keyboard->toKeyPad();
-    if (keyboard->exec() == QDialog::Accepted)
-        takeEntered(field, keyboard->stringEntered(), box);
+    QString text;
+    if (typeInto(_edit[field], _texts.keyboardTitle[field],
+                 field == INST_NSTRI || field == INST_NPOWE, &text)) {
+        QMessageBox* box =
+            newMessageBox(this, QMessageBox::Information, _texts.boxTitle, _texts.invalid);
+        takeEntered(field, text, box);
+        delete box;
+    }
     _buttonSave->setEnabled(_enteredId);
-    delete keyboard;
-    delete box;
 }
 
 void InstallationForm::takeEntered(int field, QString text, QMessageBox* box)
