@@ -12,7 +12,6 @@
 #include <QToolButton>
 #include <QWheelEvent>
 #include <algorithm>
-#include <climits>
 #include <cmath>
 
 // ---------------------------------------------------------------- PlotSettings
@@ -84,6 +83,37 @@ namespace
 int tickOffset(int i, int length, int n)
 {
     return static_cast<int>(static_cast<long long>(i) * length / n);
+}
+
+// Adds a point, mapped to the plot, to a run of a curve's line. Within the
+// plot's reach a point is taken to its pixel: one on the pixel of the point
+// before adds nothing (a curve has more points than the plot has columns),
+// and one that goes on along the row or the column of the two before it
+// only lengthens their segment (the flat and the steep parts of a curve).
+// A point far beyond the plot is kept as it is.
+void addToRun(QPolygonF& run, const QPointF& mapped)
+{
+    if (!(std::fabs(mapped.x()) < 1e6 && std::fabs(mapped.y()) < 1e6)) {
+        run.append(mapped);
+        return;
+    }
+    const QPointF pixel(std::round(mapped.x()), std::round(mapped.y()));
+    const int n = run.size();
+    if (n >= 1 && run[n - 1] == pixel)
+        return;
+    if (n >= 2) {
+        const QPointF& a = run[n - 2];
+        QPointF& b = run[n - 1];
+        const bool row =
+            a.y() == b.y() && b.y() == pixel.y() && (b.x() - a.x()) * (pixel.x() - b.x()) > 0;
+        const bool column =
+            a.x() == b.x() && b.x() == pixel.x() && (b.y() - a.y()) * (pixel.y() - b.y()) > 0;
+        if (row || column) {
+            b = pixel;
+            return;
+        }
+    }
+    run.append(pixel);
 }
 
 } // namespace
@@ -233,19 +263,51 @@ QSize Plotter::minimumSizeHint() const
 
 void Plotter::refreshPixmap()
 {
-    pixmap = QPixmap(size());
-    pixmap.fill(palette().color(backgroundRole()));
+    // The grid, its labels and the title change only with the size, the
+    // level in force, the title and the look: they are drawn once into the
+    // background and every later drawing starts from a copy of it. On the
+    // instrument's processor their texts were a large part of each drawing.
+    const PlotSettings& settings = zoomStack[curZoom];
+    const QString key =
+        QString::number(width()) + 'x' + QString::number(height()) + '|' +
+        QString::number(settings.minX, 'g', 17) + ',' + QString::number(settings.maxX, 'g', 17) +
+        ',' + QString::number(settings.numXTicks) + ',' + QString::number(settings.minY, 'g', 17) +
+        ',' + QString::number(settings.maxY, 'g', 17) + ',' + QString::number(settings.numYTicks) +
+        '|' + font().key() + '|' + QString::number(palette().color(backgroundRole()).rgba()) + ',' +
+        QString::number(palette().color(foregroundRole()).rgba()) + ',' +
+        QString::number(palette().dark().color().rgba()) + ',' +
+        QString::number(palette().light().color().rgba()) + '|' + QString::number(logicalDpiY()) +
+        '|' + plotTitle;
+    if (key != backgroundKey) {
+        background = QPixmap(size());
+        background.fill(palette().color(backgroundRole()));
+        QPainter painter(&background);
+        // What initialising the painter from the widget used to give.
+        painter.setPen(palette().color(foregroundRole()));
+        painter.setBackground(palette().brush(backgroundRole()));
+        painter.setFont(font());
+        textFonts.clear();
+        // No save and restore between them: the tick pen that the grid
+        // leaves on the painter is the pen of the title.
+        drawGrid(&painter);
+        drawTitle(&painter);
+        painter.end();
+        backgroundKey = key;
+        backgroundFonts = textFonts;
+    }
 
+    pixmap = background;
     QPainter painter(&pixmap);
-    // What initialising the painter from the widget used to give.
-    painter.setPen(palette().color(foregroundRole()));
+    // The painter as the grid and the title left it: the tick pen, or the
+    // widget's own where no grid was drawn.
+    const int right = width() - 26;
+    const int bottom = height() - 26;
+    painter.setPen(right < Margin || bottom < Margin ? palette().color(foregroundRole())
+                                                     : palette().light().color());
     painter.setBackground(palette().brush(backgroundRole()));
     painter.setFont(font());
-    textFonts.clear();
-    // No save and restore between the three: the tick pen that the grid
-    // leaves on the painter is the pen of the title.
-    drawGrid(&painter);
-    drawTitle(&painter);
+    textFonts = backgroundFonts;
+    drawVerdict(&painter);
     drawCurves(&painter);
     painter.end();
     update();
@@ -364,17 +426,28 @@ void Plotter::drawTitle(QPainter* painter)
     const int left = (width() - 2 - tw) / 2 + Margin;
     drawTextInBox(painter, QRect(QPoint(left, -2), QPoint(left + tw - 1, 35)),
                   Qt::AlignLeft | Qt::AlignVCenter, plotTitle);
+    painter->setFont(formerFont);
+}
 
-    if (viewPassTest && testResult != 4) {
-        const QString verdict = (testResult == 1 || testResult == 3) ? tr("Ok") : tr("No");
-        const QString text = tr("Misure") + " @ " + tr("STC") + " - " + verdict;
-        font.setPointSize(46);
-        painter->setFont(font);
-        painter->setPen(Qt::green); // the same colour for both verdicts
-        const int vw = fontMetrics().horizontalAdvance(text);
-        drawTextInBox(painter, QRect(QPoint(28, bottom - 28), QPoint(vw + 77, bottom + 17)),
-                      Qt::AlignLeft, text);
-    }
+// The verdict over the lower left of the plot, under the curves: the end of
+// the title's drawing, done on each drawing since the background holds the
+// title alone.
+void Plotter::drawVerdict(QPainter* painter)
+{
+    const int bottom = height() - 26;
+    if (width() + 22 < Margin || bottom < Margin || !viewPassTest || testResult == 4)
+        return;
+
+    const QFont formerFont = painter->font();
+    QFont font = formerFont;
+    const QString verdict = (testResult == 1 || testResult == 3) ? tr("Ok") : tr("No");
+    const QString text = tr("Misure") + " @ " + tr("STC") + " - " + verdict;
+    font.setPointSize(46);
+    painter->setFont(font);
+    painter->setPen(Qt::green); // the same colour for both verdicts
+    const int vw = fontMetrics().horizontalAdvance(text);
+    drawTextInBox(painter, QRect(QPoint(28, bottom - 28), QPoint(vw + 77, bottom + 17)),
+                  Qt::AlignLeft, text);
     painter->setFont(formerFont);
 }
 
@@ -400,24 +473,36 @@ void Plotter::drawCurves(QPainter* painter)
         const QVector<QPointF>& data = it.value();
         // The table wraps for negative ids too: -1 is cyan, -6 red.
         const QColor& color = colorForIds[((id % 6) + 6) % 6];
-        painter->setPen(QPen(color, 2, Qt::SolidLine));
-
         // A point that maps to no pixel (NaN or infinite value, axis of no
         // span) breaks the line: the runs of good points are drawn apart.
-        QPolygonF run;
-        run.reserve(data.size());
+        QVector<QPolygonF> runs(1);
+        runs.back().reserve(data.size());
         for (const QPointF& p : data) {
             const double x = ((right - Margin) * (p.x() - settings.minX)) / settings.spanX() + 25.0;
             const double y =
                 bottom - ((bottom - Margin) * (p.y() - settings.minY)) / settings.spanY();
-            if (std::isfinite(x) && std::isfinite(y)) {
-                run.append(QPointF(x, y));
-            } else {
-                painter->drawPolyline(run);
-                run.clear();
+            if (!std::isfinite(x) || !std::isfinite(y)) {
+                if (!runs.back().isEmpty())
+                    runs.append(QPolygonF());
+                continue;
             }
+            addToRun(runs.back(), QPointF(x, y));
         }
-        painter->drawPolyline(run);
+        // Two pixels thick, as four one-pixel lines on the corners of a
+        // square of two pixels: the one-pixel line is the toolkit's fast one,
+        // where a wide pen outlines and fills every segment with its joins
+        // (on the instrument's processor, in software floating point, most
+        // of a drawing). The square thickens flat, steep, rising and falling
+        // parts of a curve alike.
+        QPen pen(color, 1, Qt::SolidLine);
+        pen.setCosmetic(true);
+        painter->setPen(pen);
+        for (const QPoint& shift : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(-1, 0)}) {
+            painter->translate(shift);
+            for (const QPolygonF& run : runs)
+                painter->drawPolyline(run);
+        }
+        painter->translate(0, -1);
 
         if (id >= 0 && id <= 5)
             textFonts.append(painter->font());

@@ -113,6 +113,7 @@ private:
     QRect normalisedBand() const;
     void drawGrid(QPainter* painter);
     void drawTitle(QPainter* painter);
+    void drawVerdict(QPainter* painter);
     void drawCurves(QPainter* painter);
     void drawTextInBox(QPainter* painter, const QRect& box, int flags, const QString& text);
 
@@ -128,6 +129,10 @@ private:
     QToolButton* fullScreenButton;
     bool viewPassTest;
     QVector<QFont> textFonts;
+    // The grid and the title, drawn once for the key they were drawn with.
+    QPixmap background;
+    QString backgroundKey;
+    QVector<QFont> backgroundFonts;
 };
 
 #endif
