@@ -93,16 +93,24 @@ void KeyFront::install()
 
 bool KeyFront::serves(const QWidget* poller)
 {
+    // A closed window takes no key: a dialog that was shown and has closed,
+    // but is not yet deleted, keeps its poller, and when no window is active
+    // after it (the window behind is not always made active again) that
+    // poller would read the lines with the screen's and take keys meant for
+    // the screen. A window never shown yet is not closed.
+    const QWidget* window = poller->window();
+    if (window->isHidden() && window->testAttribute(Qt::WA_WState_ExplicitShowHide))
+        return false;
     // a popup has no poller: the window it was opened from serves it
-    QWidget* window = QApplication::activePopupWidget();
-    if (window != nullptr)
-        window = window->parentWidget() != nullptr ? window->parentWidget()->window() : nullptr;
-    if (window == nullptr)
-        window = QApplication::activeModalWidget();
-    if (window == nullptr)
-        window = QApplication::activeWindow();
+    QWidget* front = QApplication::activePopupWidget();
+    if (front != nullptr)
+        front = front->parentWidget() != nullptr ? front->parentWidget()->window() : nullptr;
+    if (front == nullptr)
+        front = QApplication::activeModalWidget();
+    if (front == nullptr)
+        front = QApplication::activeWindow();
     // with nothing in front every poller serves its own window
-    return window == nullptr || window == poller->window();
+    return front == nullptr || front == window;
 }
 
 bool KeyFront::openMenu(QWidget* poller)

@@ -32,6 +32,7 @@ public:
     static void install();
     // True when the poller's window is the one in front (or none is): the
     // owner of an open popup, else the top modal window, else the active one.
+    // A window that has been closed is never in front.
     static bool serves(const QWidget* poller);
     // Serves a key where neither the screen nor the toolkit would: a popup,
     // a list or combo, a field of a dialog with the plain walk. True when done.

@@ -38,6 +38,21 @@ protected:
     }
 };
 
+// A dialog that notes the keys it is given before it acts on them.
+class DialogRecorder : public QDialog
+{
+public:
+    explicit DialogRecorder(QWidget* parent) : QDialog(parent) {}
+    QList<int> keys;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        keys << event->key();
+        QDialog::keyPressEvent(event);
+    }
+};
+
 } // namespace
 
 class TestKeyboard : public QObject
@@ -194,6 +209,32 @@ private slots:
         QVERIFY(screen.keys.isEmpty()); // none of them reached the screen behind
         QVERIFY(sim.tapKey("escape"));
         QCOMPARE(screen.keys, QList<int>({Qt::Key_Escape}));
+    }
+    void keysReachOnlyTheWindowInFront_aClosedDialogKeepsNoKeyFromTheScreen()
+    {
+        // A dialog rejected but not yet deleted keeps its poller, and after
+        // it no window needs to be active: its poller then must not read the
+        // lines beside the screen's, or it takes keys meant for the screen
+        // (on a slow processor, every time its tick came first).
+        TestRoot root(0.1);
+        SimInstrument sim(root);
+        KeyRecorder screen(true);
+        GpioKeyboard keyboard(&screen);
+        screen.show();
+        DialogRecorder dialog(&screen);
+        dialog.setModal(true);
+        dialog.show();
+        QVERIFY(sim.tapKey("escape"));
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.keys, QList<int>({Qt::Key_Escape}));
+        dialog.keys.clear();
+        // a key held for several ticks: every one of them reaches the screen
+        QVERIFY(sim.pressKey("escape"));
+        QTRY_VERIFY(screen.keys.size() >= 3);
+        QVERIFY(sim.releaseKey("escape"));
+        QCOMPARE(dialog.keys, QList<int>());
+        for (int key : screen.keys)
+            QCOMPARE(key, int(Qt::Key_Escape));
     }
 };
 
