@@ -55,7 +55,12 @@ protected:
             m_done = true;
             QTimer::singleShot(0, qApp, [] {
                 insnMark(2);
-                QCoreApplication::quit();
+                // The first paint may come before the event loop runs (the
+                // splash waits for the menu to be exposed), and the loop
+                // forgets an exit asked before it starts: ask until it ends.
+                QTimer* ender = new QTimer(qApp);
+                QObject::connect(ender, &QTimer::timeout, [] { QCoreApplication::exit(0); });
+                ender->start(0);
             });
         }
         return false;
