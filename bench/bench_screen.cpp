@@ -12,7 +12,9 @@
 //                              the instrument (a wait executes nothing, so
 //                              the mandated four seconds count no
 //                              instruction; at scale 0 the status bar's
-//                              timers would run without pause)
+//                              timers would run without pause); marks 3
+//                              (the splash about to be painted) and 4 (the
+//                              menu shown, before its first layout) split it
 //   bench_screen repaint <n>   the module screen's plot with a measured and
 //                              a translated curve of 512 points, drawn again
 //                              n times as after a measure (marks 1 and 2
@@ -50,6 +52,18 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
+        // the phases of the start-up: the splash about to be painted (mark
+        // 3), the menu built and shown, before its first layout (mark 4)
+        if (!m_splash && event->type() == QEvent::Paint &&
+            std::strcmp(watched->metaObject()->className(), "QSplashScreen") == 0) {
+            m_splash = true;
+            insnMark(3);
+        }
+        if (!m_shown && event->type() == QEvent::Show &&
+            std::strcmp(watched->metaObject()->className(), m_className) == 0) {
+            m_shown = true;
+            insnMark(4);
+        }
         if (!m_done && event->type() == QEvent::Paint &&
             std::strcmp(watched->metaObject()->className(), m_className) == 0) {
             m_done = true;
@@ -69,6 +83,8 @@ protected:
 private:
     const char* m_className;
     bool m_done = false;
+    bool m_splash = false;
+    bool m_shown = false;
 };
 
 FirstPaint* menuPainted = nullptr;
