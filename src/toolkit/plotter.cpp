@@ -268,17 +268,16 @@ void Plotter::refreshPixmap()
     // background and every later drawing starts from a copy of it. On the
     // instrument's processor their texts were a large part of each drawing.
     const PlotSettings& settings = zoomStack[curZoom];
-    const QString key =
-        QString::number(width()) + 'x' + QString::number(height()) + '|' +
-        QString::number(settings.minX, 'g', 17) + ',' + QString::number(settings.maxX, 'g', 17) +
-        ',' + QString::number(settings.numXTicks) + ',' + QString::number(settings.minY, 'g', 17) +
-        ',' + QString::number(settings.maxY, 'g', 17) + ',' + QString::number(settings.numYTicks) +
-        '|' + font().key() + '|' + QString::number(palette().color(backgroundRole()).rgba()) + ',' +
-        QString::number(palette().color(foregroundRole()).rgba()) + ',' +
-        QString::number(palette().dark().color().rgba()) + ',' +
-        QString::number(palette().light().color().rgba()) + '|' + QString::number(logicalDpiY()) +
-        '|' + plotTitle;
-    if (key != backgroundKey) {
+    const BackgroundKey key{size(),
+                            {settings.minX, settings.maxX, settings.minY, settings.maxY},
+                            {settings.numXTicks, settings.numYTicks},
+                            plotTitle,
+                            font(),
+                            {palette().color(backgroundRole()).rgba(),
+                             palette().color(foregroundRole()).rgba(),
+                             palette().dark().color().rgba(), palette().light().color().rgba()},
+                            logicalDpiY()};
+    if (!(key == backgroundKey)) {
         background = QPixmap(size());
         background.fill(palette().color(backgroundRole()));
         QPainter painter(&background);
@@ -311,6 +310,13 @@ void Plotter::refreshPixmap()
     drawCurves(&painter);
     painter.end();
     update();
+}
+
+bool Plotter::BackgroundKey::operator==(const BackgroundKey& o) const
+{
+    return size == o.size && std::equal(limits, limits + 4, o.limits) &&
+           std::equal(ticks, ticks + 2, o.ticks) && title == o.title && font == o.font &&
+           std::equal(colours, colours + 4, o.colours) && dpi == o.dpi;
 }
 
 // The instrument's fonts are larger than some of the boxes the plot gives its

@@ -129,9 +129,21 @@ private:
     QToolButton* fullScreenButton;
     bool viewPassTest;
     QVector<QFont> textFonts;
+    // What the grid and the title depend on: the size, the level in force,
+    // the title and the look.
+    struct BackgroundKey {
+        QSize size;
+        double limits[4];
+        int ticks[2];
+        QString title;
+        QFont font;
+        QRgb colours[4];
+        int dpi;
+        bool operator==(const BackgroundKey& o) const;
+    };
     // The grid and the title, drawn once for the key they were drawn with.
     QPixmap background;
-    QString backgroundKey;
+    BackgroundKey backgroundKey{};
     QVector<QFont> backgroundFonts;
 };
 
