@@ -30,8 +30,7 @@
 #include <functional>
 #include <vector>
 
-namespace
-{
+namespace {
 
 const QColor White(245, 245, 245);
 const QColor Grey(150, 150, 155);
@@ -49,7 +48,8 @@ const QColor MinusLead(70, 150, 255);
 
 using Draw = std::function<void(QPainter&, int w, int h)>;
 
-struct Picture {
+struct Picture
+{
     QString path; // relative to the output dir, as in the resource tree
     int width;
     int height;
@@ -352,20 +352,13 @@ enum class Charge { Full, P75, P50, P25, P15, Alert, Empty };
 qreal chargeFraction(Charge c)
 {
     switch (c) {
-    case Charge::Full:
-        return 1.0;
-    case Charge::P75:
-        return 0.75;
-    case Charge::P50:
-        return 0.5;
-    case Charge::P25:
-        return 0.25;
-    case Charge::P15:
-        return 0.15;
-    case Charge::Alert:
-        return 0.08;
-    case Charge::Empty:
-        return 0.0;
+    case Charge::Full: return 1.0;
+    case Charge::P75: return 0.75;
+    case Charge::P50: return 0.5;
+    case Charge::P25: return 0.25;
+    case Charge::P15: return 0.15;
+    case Charge::Alert: return 0.08;
+    case Charge::Empty: return 0.0;
     }
     return 0.0;
 }
@@ -374,17 +367,12 @@ QColor chargeColour(Charge c)
 {
     switch (c) {
     case Charge::Full:
-    case Charge::P75:
-        return Green;
-    case Charge::P50:
-        return QColor(200, 230, 40);
-    case Charge::P25:
-        return Amber;
-    case Charge::P15:
-        return Orange;
+    case Charge::P75: return Green;
+    case Charge::P50: return QColor(200, 230, 40);
+    case Charge::P25: return Amber;
+    case Charge::P15: return Orange;
     case Charge::Alert:
-    case Charge::Empty:
-        return Red;
+    case Charge::Empty: return Red;
     }
     return Red;
 }
@@ -568,10 +556,8 @@ void drawControlCenter(QPainter& p, int, int)
     for (int i = 0; i < teeth; ++i) {
         const qreal a = i * 2 * M_PI / teeth;
         const qreal half = M_PI / teeth;
-        const qreal points[][2] = {{a - half * 0.95, 16},
-                                   {a - half * 0.5, 21.5},
-                                   {a + half * 0.5, 21.5},
-                                   {a + half * 0.95, 16}};
+        const qreal points[][2] = {{a - half * 0.95, 16}, {a - half * 0.5, 21.5},
+                                   {a + half * 0.5, 21.5}, {a + half * 0.95, 16}};
         for (const auto& pt : points)
             outline << c + QPointF(qCos(pt[0]), qSin(pt[0])) * pt[1];
     }
@@ -1001,7 +987,8 @@ void serialAdapter(QPainter& p, qreal y)
     p.setPen(pen(White, 2.5));
     p.drawLine(QPointF(18, y), QPointF(28, y));
     QPolygonF dsub;
-    dsub << QPointF(28, y - 9) << QPointF(47, y - 7) << QPointF(47, y + 7) << QPointF(28, y + 9);
+    dsub << QPointF(28, y - 9) << QPointF(47, y - 7) << QPointF(47, y + 7)
+         << QPointF(28, y + 9);
     p.setPen(pen(Qt::black, 1.5));
     p.setBrush(Silver);
     p.drawPolygon(dsub);
@@ -1128,8 +1115,8 @@ void drawSplash(QPainter& p, int w, int h)
     for (int i = 0; i < 8; ++i) {
         const qreal x0 = 24 + i * 124;
         QPolygonF tilt;
-        tilt << QPointF(x0 + 14, h - 100) << QPointF(x0 + 110, h - 100) << QPointF(x0 + 100, h - 22)
-             << QPointF(x0, h - 22);
+        tilt << QPointF(x0 + 14, h - 100) << QPointF(x0 + 110, h - 100)
+             << QPointF(x0 + 100, h - 22) << QPointF(x0, h - 22);
         QLinearGradient g(0, h - 100, 0, h - 22);
         g.setColorAt(0, CellBlue.lighter(150));
         g.setColorAt(1, CellBlue.darker(150));
@@ -1185,11 +1172,12 @@ void drawSplash(QPainter& p, int w, int h)
 // The instrument as seen from the front: body, screen, measuring terminals on
 // the top edge (the - terminal left of the +), sensor sockets on the right
 // side. Returns nothing; the caller knows the geometry it passed.
-struct Instrument {
+struct Instrument
+{
     QRectF body;
-    QPointF minus, plus; // top terminals
-    QPointF tempSocket;  // right side, upper
-    QPointF irrSocket;   // right side, lower
+    QPointF minus, plus;   // top terminals
+    QPointF tempSocket;    // right side, upper
+    QPointF irrSocket;     // right side, lower
 };
 
 Instrument instrument(QPainter& p, const QRectF& body)
@@ -1335,8 +1323,7 @@ void drawSchemaPannello(QPainter& p, int w, int h)
     cable(p, irrCable, Amber, 4);
 
     // temperature probe at the back of the module
-    const QPointF probeOut =
-        temperatureProbe(p, QPointF(module.center().x(), module.bottom() - 80));
+    const QPointF probeOut = temperatureProbe(p, QPointF(module.center().x(), module.bottom() - 80));
     QPainterPath probeCable(probeOut);
     probeCable.lineTo(probeOut.x(), h - 30);
     probeCable.lineTo(in.tempSocket.x() + 70, h - 30);
@@ -1424,8 +1411,8 @@ std::vector<Picture> pictures()
                        std::move(d)};
     };
     const int menu = 48;
-    const int barW = 48, barH = 24; // status bar, lying
-    const int upW = 32, upH = 56;   // measuring screens, upright
+    const int barW = 48, barH = 24;   // status bar, lying
+    const int upW = 32, upH = 56;     // measuring screens, upright
     const int flagW = 36, flagH = 24;
     std::vector<Picture> list = {
         icon("ac-adapter", barW, barH, drawAcAdapter),
@@ -1489,12 +1476,10 @@ std::vector<Picture> pictures()
         icon("flag-france", flagW, flagH,
              verticalTricolour(QColor(0, 85, 164), Qt::white, QColor(239, 65, 53))),
         icon("flag-germany", flagW, flagH,
-             horizontalBands({{Qt::black, 1 / 3.0},
-                              {QColor(221, 0, 0), 1 / 3.0},
+             horizontalBands({{Qt::black, 1 / 3.0}, {QColor(221, 0, 0), 1 / 3.0},
                               {QColor(255, 206, 0), 1 / 3.0}})),
         icon("flag-spain", flagW, flagH,
-             horizontalBands({{QColor(198, 11, 30), 0.25},
-                              {QColor(255, 196, 0), 0.5},
+             horizontalBands({{QColor(198, 11, 30), 0.25}, {QColor(255, 196, 0), 0.5},
                               {QColor(198, 11, 30), 0.25}})),
         icon("flag-england", flagW, flagH, drawFlagEngland),
         {QStringLiteral("image/splash.png"), 1024, 600, true, drawSplash},
@@ -1588,9 +1573,10 @@ void appendChunk(QByteArray& out, const char* type, const QByteArray& data)
 
 // Writes the picture as a PNG whose rows carry no filter, RGB when it is
 // opaque and RGBA otherwise. The instrument decodes the splash at every
-// start, in a second on its processor as the toolkit writes it (with the
-// rows' filters and an alpha channel nobody sees); unfiltered rows decode in
-// half of that, and the deflated file is smaller. The pixels are the same.
+// start: as the toolkit writes it (the rows' filters and an alpha channel
+// nobody sees) that took half a second of its processor; unfiltered rows
+// decode in half of that, and the deflated file is smaller. The pixels are
+// the same.
 bool writePng(const QImage& picture, bool opaque, const QString& file)
 {
     const QImage rows =
