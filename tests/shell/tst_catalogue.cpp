@@ -463,11 +463,13 @@ private slots:
         TestRoot root(0.01);
         QVERIFY(root.installCatalogues());
         const QByteArray text = source.toUtf8();
-        for (int i = 1; i < 5; i++) {
+        for (int i = 0; i < 5; i++) {
             QTranslator compiled;
             QVERIFY(loadTranslator(&compiled, languageValues[i]));
+            // the Italian catalogue gives the source text back
+            const QString expected = i == 0 ? source : shown[i - 1];
             for (const QString& context : contexts)
-                QCOMPARE(compiled.translate(qPrintable(context), text.constData()), shown[i - 1]);
+                QCOMPARE(compiled.translate(qPrintable(context), text.constData()), expected);
         }
     }
 
