@@ -11,15 +11,6 @@ int fontPixels(const QFont& font)
     return QFontInfo(font).pixelSize();
 }
 
-QFont fittedFont(const QFont& font, const QString& text, int width)
-{
-    QFont fitted = font;
-    int px = fontPixels(font);
-    while (px > MinTextPixels && QFontMetrics(fitted).horizontalAdvance(text) > width)
-        fitted.setPixelSize(--px);
-    return fitted;
-}
-
 TextFit fitTextInBox(const QFont& font, const QString& text, const QRect& box, int flags,
                      const QPaintDevice* device)
 {

@@ -14,11 +14,6 @@ constexpr int MinTextPixels = 11;
 // The font's pixel size, whatever way its size was given.
 int fontPixels(const QFont& font);
 
-// The font in the largest pixel size, not above its own, in which the text
-// is at most `width` pixels wide; never below MinTextPixels (at that size a
-// text may still be wider).
-QFont fittedFont(const QFont& font, const QString& text, int width);
-
 // A text fitted to its box: the font it is drawn in and whether it fits there.
 struct TextFit {
     QFont font;

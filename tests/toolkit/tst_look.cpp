@@ -89,6 +89,8 @@ class TestLook : public QObject
         const TextFit fit = fitTextInBox(font, text, room, flags);
         if (!fit.fits)
             return -1;
+        if (fontPixels(fit.font) == fontPixels(font))
+            return fontPixels(font);
         QFont larger = fit.font;
         larger.setPixelSize(fontPixels(fit.font) + 1);
         const QRect need = QFontMetrics(larger).boundingRect(room, flags, text);
@@ -276,11 +278,19 @@ private slots:
         QVERIFY(TitleStrip::of(&dialog) == nullptr);
         QCOMPARE(dialog.contentsMargins().top(), 0);
         // a long title is drawn smaller, never below 11 pixels
-        dialog.setWindowTitle(QString("Degrado Modulo ").repeated(6));
+        dialog.setWindowTitle("Degrado Modulo, Luminosità");
         TitleStrip* strip = TitleStrip::of(&dialog);
         QVERIFY(strip != nullptr);
-        QVERIFY(QFontInfo(strip->font()).pixelSize() >= 11);
-        QVERIFY(QFontInfo(strip->font()).pixelSize() < TitleStrip::FontPixels);
+        QCOMPARE(fontPixels(strip->font()), int(TitleStrip::FontPixels));
+        const int flags = int(strip->alignment());
+        const QRect room =
+            textRoom(strip->contentsRect().adjusted(strip->indent(), 0, 0, 0), flags);
+        const int px = largestFit(strip->font(), strip->text(), room, flags);
+        QVERIFY2(px >= MinTextPixels && px < TitleStrip::FontPixels,
+                 qPrintable(QString::number(px)));
+        QFont fitted = strip->font();
+        fitted.setPixelSize(px);
+        QVERIFY(drawnInFont(strip, fitted));
     }
 
     void operatorSeesWhereTheyAre_focusMarkedOnTheSettings()
