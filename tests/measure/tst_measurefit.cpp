@@ -86,10 +86,14 @@ private slots:
              [string] { return std::make_unique<Viewer>(node(string, MEA_STRING), MEA_STRING); }},
             {"measure-reference-choice",
              [] {
+                 // shown on the whole screen before a model is touched, as
+                 // the operator finds it
                  auto choice = std::make_unique<ReferencePanel>(nullptr);
+                 choice->resize(1024, 600);
+                 choice->show();
                  QListWidget* brands = choice->findChild<QListWidget*>("Marca");
                  QListWidget* models = choice->findChild<QListWidget*>("Modello");
-                 if (!brands || !models)
+                 if (!brands || !models || !QTest::qWaitForWindowExposed(choice.get()))
                      return std::unique_ptr<ReferencePanel>();
                  brands->setCurrentRow(0);
                  if (!QTest::qWaitFor([models] { return models->count() == 2; }, 2000))

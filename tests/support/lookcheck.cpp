@@ -214,6 +214,29 @@ void checkGroupTitle(QGroupBox* group, QStringList* faults)
              box.intersected(group->rect()), Qt::AlignLeft | Qt::TextShowMnemonic, faults);
 }
 
+// The titles of a table's columns or rows, each in its section.
+void checkHeader(QHeaderView* header, QStringList* faults)
+{
+    const QAbstractItemModel* model = header->model();
+    if (!model)
+        return;
+    const int margin = header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
+    for (int section = 0; section < header->count(); ++section) {
+        if (header->isSectionHidden(section))
+            continue;
+        const QString text =
+            model->headerData(section, header->orientation(), Qt::DisplayRole).toString();
+        if (text.isEmpty())
+            continue;
+        const bool across = header->orientation() == Qt::Horizontal;
+        const int size = header->sectionSize(section) - 2 * margin;
+        const QRect box = across ? QRect(0, 0, size, header->height())
+                                 : QRect(0, 0, header->width() - 2 * margin, size);
+        checkFit(header, QString("%1 section %2").arg(nameOf(header)).arg(section), header->font(),
+                 text, box, Qt::AlignCenter, faults);
+    }
+}
+
 void checkItems(QAbstractItemView* view, QStringList* faults)
 {
     const QAbstractItemModel* model = view->model();
@@ -272,8 +295,10 @@ QStringList legibilityFaults(QWidget* screen)
         QAbstractButton* button = qobject_cast<QAbstractButton*>(w);
         QAbstractItemView* view = qobject_cast<QAbstractItemView*>(w);
         // a table's header shares the table's model but shows its headers
-        if (qobject_cast<QHeaderView*>(w))
+        if (QHeaderView* header = qobject_cast<QHeaderView*>(w)) {
             view = nullptr;
+            checkHeader(header, &faults);
+        }
         const bool showsText = (label && !label->text().isEmpty()) ||
                                (button && !button->text().isEmpty()) || view ||
                                w->inherits("QLineEdit") || w->inherits("QComboBox");
