@@ -55,7 +55,8 @@ void DialogBrightness::viewValue()
 
 void DialogBrightness::keyPressEvent(QKeyEvent* event)
 {
-    if ((event->key() == Qt::Key_Return && okButton->hasFocus()) || event->key() == Qt::Key_Escape)
+    if ((event->key() == Qt::Key_Return && okButton->hasFocus()) ||
+        event->key() == Qt::Key_Escape)
         reject();
     QWidget::keyPressEvent(event);
 }

@@ -11,9 +11,9 @@
 #include "toolkit/messagebox.h"
 #include "toolkit/numbertext.h"
 
+#include <QEvent>
 #include <QComboBox>
 #include <QDateTimeEdit>
-#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -146,7 +146,8 @@ DialogSystem::DialogSystem(_configParam* config, QWidget* parent) : QDialog(pare
     connect(languageCombo, &QComboBox::currentIndexChanged, this, &DialogSystem::setLanguage);
     connect(probeCombo, &QComboBox::currentIndexChanged, this, &DialogSystem::setProbeTemp);
     connect(clockCombo, &QComboBox::currentIndexChanged, this, &DialogSystem::setDisplayClock);
-    connect(remoteCombo, &QComboBox::currentIndexChanged, this, &DialogSystem::setRemoteUnitLink);
+    connect(remoteCombo, &QComboBox::currentIndexChanged, this,
+            &DialogSystem::setRemoteUnitLink);
     connect(brightnessButton, &QPushButton::clicked, this, &DialogSystem::setBrightness);
     connect(blueMacButton, &QPushButton::clicked, this, &DialogSystem::insertBlueMac);
     connect(blueNameButton, &QPushButton::clicked, this, &DialogSystem::insertBlueName);
@@ -221,7 +222,8 @@ void DialogSystem::setBrightness()
 
 // Opens the keyboard over the screen and gives back the accepted text, or a
 // null string when the operator left it.
-static QString typeText(QWidget* parent, const QString& title, const QString& initial, bool keyPad)
+static QString typeText(QWidget* parent, const QString& title, const QString& initial,
+                        bool keyPad)
 {
     EmbKeyboard keyboard(parent, title, initial);
     if (keyPad)
@@ -250,8 +252,8 @@ void DialogSystem::insertBlueMac()
 
 void DialogSystem::insertBlueName()
 {
-    QString text =
-        typeText(this, tr("Nome Dispositivo Remoto"), storedText(_config.bluename), false);
+    QString text = typeText(this, tr("Nome Dispositivo Remoto"),
+                            storedText(_config.bluename), false);
     if (text.isNull())
         return;
     QString title = tr("Bluetooth Nome Dispositivo Remoto");
@@ -339,8 +341,8 @@ bool DialogSystem::eventFilter(QObject* obj, QEvent* event)
 
 void DialogSystem::editLineObject(QObject* obj)
 {
-    QMessageBox* box =
-        newMessageBox(this, QMessageBox::Information, QString(), tr("Numero non valido."));
+    QMessageBox* box = newMessageBox(this, QMessageBox::Information, QString(),
+                                     tr("Numero non valido."));
     EmbKeyboard* keyboard = new EmbKeyboard(this, QString(), QString());
     QLineEdit* edit = nullptr;
     float low = 0;

@@ -14,10 +14,10 @@
 #include <QPixmap>
 #include <QTimer>
 
-static const char* const batteryPicture[] = {":/icon/battery-full.png", ":/icon/battery-75.png",
-                                             ":/icon/battery-50.png",   ":/icon/battery-25.png",
-                                             ":/icon/battery-15.png",   ":/icon/battery-alert.png",
-                                             ":/icon/battery-empty.png"};
+static const char* const batteryPicture[] = {
+    ":/icon/battery-full.png", ":/icon/battery-75.png",    ":/icon/battery-50.png",
+    ":/icon/battery-25.png",   ":/icon/battery-15.png",    ":/icon/battery-alert.png",
+    ":/icon/battery-empty.png"};
 
 InfoBar::InfoBar(QWidget* parent)
     : QWidget(parent), usbShown(false), powerLabel(nullptr), clockLabel(nullptr),

@@ -40,10 +40,10 @@ void QKeyPushButton::getKeyPress(bool caps)
     QString name = objectName();
     bool special = false;
     if (name.length() != 1) {
-        for (const QString& word :
-             {EmbKeyboard::tr("BACK"), EmbKeyboard::tr("ENTER"), EmbKeyboard::tr("DEL"),
-              EmbKeyboard::tr(".?123"), EmbKeyboard::tr("CAPS"), EmbKeyboard::tr("LEFT"),
-              EmbKeyboard::tr("RIGHT"), EmbKeyboard::tr("ESC")})
+        for (const QString& word : {EmbKeyboard::tr("BACK"), EmbKeyboard::tr("ENTER"),
+                                    EmbKeyboard::tr("DEL"), EmbKeyboard::tr(".?123"),
+                                    EmbKeyboard::tr("CAPS"), EmbKeyboard::tr("LEFT"),
+                                    EmbKeyboard::tr("RIGHT"), EmbKeyboard::tr("ESC")})
             if (name.contains(word, Qt::CaseInsensitive))
                 special = true;
     }

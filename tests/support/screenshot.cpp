@@ -7,8 +7,7 @@
 #include <QWidget>
 #include <cstdio>
 
-namespace
-{
+namespace {
 
 QString screenshotDir()
 {
@@ -35,8 +34,8 @@ void useInstrumentScreen()
                " \"width\": 1024, \"height\": 600, \"logicalDpi\": 72,"
                " \"logicalBaseDpi\": 72, \"dpr\": 1 } ] }\n");
     file.close();
-    if (std::rename(QFile::encodeName(partial).constData(),
-                    QFile::encodeName(config).constData()) != 0) {
+    if (std::rename(QFile::encodeName(partial).constData(), QFile::encodeName(config).constData())
+        != 0) {
         QFile::remove(partial);
         return;
     }

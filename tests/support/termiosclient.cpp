@@ -87,8 +87,7 @@ QByteArray TermiosClient::readExactly(int count, int timeoutMs)
             continue;
         }
         char buffer[4096];
-        ssize_t n =
-            ::read(fd, buffer, static_cast<size_t>(qMin<qsizetype>(count - data.size(), 4096)));
+        ssize_t n = ::read(fd, buffer, static_cast<size_t>(qMin<qsizetype>(count - data.size(), 4096)));
         if (n > 0)
             data.append(buffer, static_cast<int>(n));
     }
