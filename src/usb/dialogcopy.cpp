@@ -33,13 +33,13 @@ DialogCopy::DialogCopy(QWidget* parent) : QDialog(parent)
     _folder->setObjectName("folder");
     _listDir = new QListWidget;
     _listDir->setObjectName("folders");
-    _buttonOpen = new QPushButton(QIcon(":/icon/next.png"), tr("Apri"));
+    _buttonOpen = new QPushButton(QIcon(":/icon/next.png"), QString());
     _buttonOpen->setObjectName("Apri");
-    _buttonBack = new QPushButton(QIcon(":/icon/left.png"), tr("Indietro"));
+    _buttonBack = new QPushButton(QIcon(":/icon/left.png"), QString());
     _buttonBack->setObjectName("Indietro");
-    _buttonConfirm = new QPushButton(QIcon(":/icon/confirm.png"), tr("Conferma"));
+    _buttonConfirm = new QPushButton(QIcon(":/icon/confirm.png"), QString());
     _buttonConfirm->setObjectName("Conferma");
-    _buttonExit = new QPushButton(QIcon(":/icon/exit.png"), tr("Exit"));
+    _buttonExit = new QPushButton(QIcon(":/icon/exit.png"), QString());
     _buttonExit->setObjectName("Exit");
     for (QPushButton* b : {_buttonOpen, _buttonBack, _buttonConfirm, _buttonExit})
         b->setIconSize(QSize(32, 32));
@@ -71,11 +71,16 @@ DialogCopy::DialogCopy(QWidget* parent) : QDialog(parent)
     showMaximized();
 }
 
-void DialogCopy::setTexts(const QString& title, const QString& caption)
+void DialogCopy::setTexts(const Texts& texts)
 {
-    setWindowTitle(title);
-    _infoBar->setTitle(title);
-    _caption->setText(caption);
+    _texts = texts;
+    setWindowTitle(texts.title);
+    _infoBar->setTitle(texts.title);
+    _caption->setText(texts.caption);
+    _buttonOpen->setText(texts.open);
+    _buttonBack->setText(texts.back);
+    _buttonConfirm->setText(texts.confirm);
+    _buttonExit->setText(texts.exit);
 }
 
 void DialogCopy::initializeDir()
@@ -178,10 +183,9 @@ bool DialogCopy::rmDir(QString const& path)
     return dir.rmdir(dir.absolutePath());
 }
 
-void DialogCopy::copyDirectories(const QString& label, const QString& boxTitle,
-                                 const std::function<std::string(const char* dir)>& commandLine)
+void DialogCopy::copyDirectories(const std::function<std::string(const char* dir)>& commandLine)
 {
-    QProgressDialog progress(label, tr("Cancella..."), 0, 6, this);
+    QProgressDialog progress(_texts.title, _texts.cancel, 0, 6, this);
     progress.setMinimumDuration(0);
     progress.setWindowModality(Qt::WindowModal);
     progress.setStyleSheet(READ_PROGRESS_STYLE);
@@ -197,9 +201,8 @@ void DialogCopy::copyDirectories(const QString& label, const QString& boxTitle,
     }
     progress.setAutoClose(true);
     progress.close();
-    showMessageBox(this, QMessageBox::Information, boxTitle, tr("Terminato"));
-    showMessageBox(this, QMessageBox::Information, boxTitle,
-                   tr("Disconnettere la chiavetta USB prima di scollegarla."));
+    showMessageBox(this, QMessageBox::Information, _texts.boxTitle, _texts.finished);
+    showMessageBox(this, QMessageBox::Information, _texts.boxTitle, _texts.unplug);
 }
 
 void DialogCopy::keyPressEvent(QKeyEvent* event)

@@ -14,7 +14,9 @@ class QPushButton;
 // What the two copy screens share: the walk through the stick's folders,
 // which starts at the stick's mount point and never goes above it, and the
 // buttons "Apri", "Indietro", "Conferma" and "Exit". The screens differ in
-// which folder may be confirmed or entered and in the copy itself.
+// which folder may be confirmed or entered and in the copy itself. Every text
+// is the screen's own, translated in the screen's catalogue: the two screens
+// word their buttons and boxes each for itself.
 class DialogCopy : public QDialog
 {
     Q_OBJECT
@@ -32,8 +34,16 @@ public slots:
 protected:
     explicit DialogCopy(QWidget* parent);
 
-    // The title and caption are the screen's own, in its own catalogue.
-    void setTexts(const QString& title, const QString& caption);
+    // What the screen shows, each text already translated by the screen.
+    struct Texts {
+        QString title; // also the label of the copy's progress
+        QString caption;
+        QString open, back, confirm, exit;
+        QString cancel;   // the cancel button of the copy's progress
+        QString boxTitle; // the two boxes after the copy
+        QString finished, unplug;
+    };
+    void setTexts(const Texts& texts);
     virtual bool mayEnter(const QString& name) const;
     virtual bool mayConfirm() const = 0;
 
@@ -43,11 +53,11 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     // The copy: one script call per data directory under a progress dialog
     // that may be cancelled between directories, then the two closing boxes.
-    void copyDirectories(const QString& label, const QString& boxTitle,
-                         const std::function<std::string(const char* dir)>& commandLine);
+    void copyDirectories(const std::function<std::string(const char* dir)>& commandLine);
     QString selectedName() const;
     bool atBase() const;
 
+    Texts _texts;
     QDir _dir;
     QString _baseDir;
     InfoBar* _infoBar;

@@ -7,7 +7,9 @@
 DialogCopyFrom::DialogCopyFrom(QWidget* parent) : DialogCopy(parent)
 {
     setObjectName("Copy From");
-    setTexts(tr("Copia Da..."), tr("Selezionare la sorgente"));
+    setTexts({tr("Copia Da..."), tr("Selezionare la sorgente"), tr("Apri"), tr("Indietro"),
+              tr("Conferma"), tr("Exit"), tr("Cancella..."), tr("Copia DataBase"), tr("Terminato"),
+              tr("Disconnettere la chiavetta USB prima di scollegarla.")});
 }
 
 // Only a stick's "krm510data" folder is a source; it is picked, not entered.
@@ -26,7 +28,7 @@ void DialogCopyFrom::copyDataBaseTo()
     if (!mayConfirm())
         return;
     const std::string source = _dir.absoluteFilePath(selectedName()).toLocal8Bit().toStdString();
-    copyDirectories(tr("Copia Da..."), tr("Copia DataBase"), [&source](const char* dir) {
+    copyDirectories([&source](const char* dir) {
         return std::string("/usr/bin/krmcopyfrom.sh ") + shellQuote(source) + " " + shellQuote(dir);
     });
 }

@@ -50,8 +50,8 @@ private slots:
         TestRoot root(0.01);
         Orvia menu;
         QStringList texts;
-        for (const char* name : {"Sistema", "Modulo", "Stringa", "ArchivioModuli",
-                                 "ArchivioMisure", "ArchivioAziende", "ArchivioInstallazioni", "USB"}) {
+        for (const char* name : {"Sistema", "Modulo", "Stringa", "ArchivioModuli", "ArchivioMisure",
+                                 "ArchivioAziende", "ArchivioInstallazioni", "USB"}) {
             QPushButton* b = button(menu, name);
             QVERIFY2(b != nullptr, name);
             QVERIFY(b->isFlat());
@@ -273,6 +273,34 @@ private slots:
             QVERIFY(loadTranslator(&translator, static_cast<_language>(lang)));
             QCOMPARE(translator.translate("Orvia", "Brask"), QString());
         }
+    }
+    // The title is no catalogue's text: whatever a catalogue would make of
+    // it, at start-up in any language or after a change, it stays.
+    void statusBarTitleNeverChangesWithTheLanguage()
+    {
+        struct EveryText : QTranslator {
+            QString translate(const char*, const char* source, const char*, int) const override
+            {
+                return QString::fromUtf8(source) == "KRM 510" ? QString("Titolo tradotto")
+                                                              : QString();
+            }
+            bool isEmpty() const override { return false; }
+        } titleTranslator;
+        TestRoot root(0.01);
+        QVERIFY(root.installCatalogues());
+        QVERIFY(QCoreApplication::installTranslator(&titleTranslator));
+        const char* const system[] = {"Sistema", "System", "Système", "System", "Sistema"};
+        for (int lang = LANG_IT; lang <= LANG_ES; lang++) {
+            QVERIFY(loadTranslator(qTranslator, static_cast<_language>(lang)));
+            Orvia menu;
+            QCOMPARE(button(menu, "Sistema")->text(), QString::fromUtf8(system[lang]));
+            QCOMPARE(menu.findChild<InfoBar*>()->title(), QString("KRM 510"));
+            loadTranslator(qTranslator, static_cast<_language>((lang + 1) % 5));
+            menu.translateUi();
+            QCOMPARE(menu.findChild<InfoBar*>()->title(), QString("KRM 510"));
+        }
+        QCoreApplication::removeTranslator(&titleTranslator);
+        loadTranslator(qTranslator, LANG_IT);
     }
     void boardFailureIsShownInTheCataloguesOfTheMenu()
     {

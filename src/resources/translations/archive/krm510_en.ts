@@ -689,7 +689,7 @@ Company name</translation>
     <message>
         <location line="+0"/>
         <source>Toll- : </source>
-        <translation>Toll- : </translation>
+        <translation>Tol- : </translation>
     </message>
     <message>
         <location line="+1"/>
@@ -700,7 +700,7 @@ Company name</translation>
     <message>
         <location line="+0"/>
         <source>Toll+ : </source>
-        <translation>Toll+ : </translation>
+        <translation>Tol+ : </translation>
     </message>
     <message>
         <location line="+1"/>
@@ -725,12 +725,12 @@ Company name</translation>
     <message>
         <location line="+0"/>
         <source>Toll-</source>
-        <translation>Toll-</translation>
+        <translation>Tol-</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Toll+</source>
-        <translation>Toll+</translation>
+        <translation>Tol+</translation>
     </message>
     <message>
         <location line="+6"/>
@@ -935,7 +935,7 @@ Company name</translation>
     <message>
         <location line="+0"/>
         <source>Toll- : </source>
-        <translation>Toll- : </translation>
+        <translation>Tol- : </translation>
     </message>
     <message>
         <location line="+1"/>
@@ -946,7 +946,7 @@ Company name</translation>
     <message>
         <location line="+0"/>
         <source>Toll+ : </source>
-        <translation>Toll+ : </translation>
+        <translation>Tol+ : </translation>
     </message>
     <message>
         <location line="+1"/>
@@ -971,12 +971,12 @@ Company name</translation>
     <message>
         <location line="+0"/>
         <source>Toll-</source>
-        <translation>Toll-</translation>
+        <translation>Tol-</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Toll+</source>
-        <translation>Toll+</translation>
+        <translation>Tol+</translation>
     </message>
     <message>
         <location line="+6"/>
@@ -1872,7 +1872,7 @@ Company name</translation>
     <message>
         <location line="+0"/>
         <source>Toll- : </source>
-        <translation>Toll- : </translation>
+        <translation>Tol- : </translation>
     </message>
     <message>
         <location line="+1"/>
@@ -1883,7 +1883,7 @@ Company name</translation>
     <message>
         <location line="+0"/>
         <source>Toll+ : </source>
-        <translation>Toll+ : </translation>
+        <translation>Tol+ : </translation>
     </message>
     <message>
         <location line="+1"/>
@@ -1908,12 +1908,12 @@ Company name</translation>
     <message>
         <location line="+0"/>
         <source>Toll-</source>
-        <translation>Toll-</translation>
+        <translation>Tol-</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Toll+</source>
-        <translation>Toll+</translation>
+        <translation>Tol+</translation>
     </message>
     <message>
         <location line="+6"/>

@@ -98,7 +98,7 @@
     <message>
         <location line="+1"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Salir</translation>
     </message>
 </context>
 <context>
@@ -141,7 +141,7 @@
     <message>
         <location line="+1"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Salir</translation>
     </message>
 </context>
 <context>
@@ -172,7 +172,7 @@
     <message>
         <location line="-79"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <location line="+10"/>
@@ -212,7 +212,7 @@
     <message>
         <location line="+3"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <location line="+32"/>
@@ -391,7 +391,7 @@ Denominación</translation>
     <message>
         <location line="+1"/>
         <source>Reset</source>
-        <translation>Reset</translation>
+        <translation>Restablecer</translation>
     </message>
     <message>
         <location line="+1"/>
@@ -533,7 +533,7 @@ Denominación</translation>
     <message>
         <location line="+1"/>
         <source>Reset</source>
-        <translation>Reset</translation>
+        <translation>Restablecer</translation>
     </message>
     <message>
         <location line="+1"/>
@@ -689,7 +689,7 @@ Denominación</translation>
     <message>
         <location line="+0"/>
         <source>Toll- : </source>
-        <translation>Toll- : </translation>
+        <translation>Tol- : </translation>
     </message>
     <message>
         <location line="+1"/>
@@ -700,7 +700,7 @@ Denominación</translation>
     <message>
         <location line="+0"/>
         <source>Toll+ : </source>
-        <translation>Toll+ : </translation>
+        <translation>Tol+ : </translation>
     </message>
     <message>
         <location line="+1"/>
@@ -725,12 +725,12 @@ Denominación</translation>
     <message>
         <location line="+0"/>
         <source>Toll-</source>
-        <translation>Toll-</translation>
+        <translation>Tol-</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Toll+</source>
-        <translation>Toll+</translation>
+        <translation>Tol+</translation>
     </message>
     <message>
         <location line="+6"/>
@@ -760,7 +760,7 @@ Denominación</translation>
     <message>
         <location line="+1"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <location line="+24"/>
@@ -935,7 +935,7 @@ Denominación</translation>
     <message>
         <location line="+0"/>
         <source>Toll- : </source>
-        <translation>Toll- : </translation>
+        <translation>Tol- : </translation>
     </message>
     <message>
         <location line="+1"/>
@@ -946,7 +946,7 @@ Denominación</translation>
     <message>
         <location line="+0"/>
         <source>Toll+ : </source>
-        <translation>Toll+ : </translation>
+        <translation>Tol+ : </translation>
     </message>
     <message>
         <location line="+1"/>
@@ -971,12 +971,12 @@ Denominación</translation>
     <message>
         <location line="+0"/>
         <source>Toll-</source>
-        <translation>Toll-</translation>
+        <translation>Tol-</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Toll+</source>
-        <translation>Toll+</translation>
+        <translation>Tol+</translation>
     </message>
     <message>
         <location line="+6"/>
@@ -1006,7 +1006,7 @@ Denominación</translation>
     <message>
         <location line="+1"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <location line="+20"/>
@@ -1095,7 +1095,7 @@ Denominación</translation>
     <message>
         <location line="+2"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <location line="+67"/>
@@ -1403,7 +1403,7 @@ Denominación</translation>
     <message>
         <location line="+1"/>
         <source>Reset</source>
-        <translation>Reset</translation>
+        <translation>Restablecer</translation>
     </message>
     <message>
         <location line="+1"/>
@@ -1544,7 +1544,7 @@ Denominación</translation>
     <message>
         <location line="+1"/>
         <source>Reset</source>
-        <translation>Reset</translation>
+        <translation>Restablecer</translation>
     </message>
     <message>
         <location line="+1"/>
@@ -1653,7 +1653,7 @@ Denominación</translation>
     <message>
         <location line="+5"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <location line="+46"/>
@@ -1701,7 +1701,7 @@ Denominación</translation>
     <message>
         <location line="+9"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <location line="+49"/>
@@ -1872,7 +1872,7 @@ Denominación</translation>
     <message>
         <location line="+0"/>
         <source>Toll- : </source>
-        <translation>Toll- : </translation>
+        <translation>Tol- : </translation>
     </message>
     <message>
         <location line="+1"/>
@@ -1883,7 +1883,7 @@ Denominación</translation>
     <message>
         <location line="+0"/>
         <source>Toll+ : </source>
-        <translation>Toll+ : </translation>
+        <translation>Tol+ : </translation>
     </message>
     <message>
         <location line="+1"/>
@@ -1908,12 +1908,12 @@ Denominación</translation>
     <message>
         <location line="+0"/>
         <source>Toll-</source>
-        <translation>Toll-</translation>
+        <translation>Tol-</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Toll+</source>
-        <translation>Toll+</translation>
+        <translation>Tol+</translation>
     </message>
     <message>
         <location line="+6"/>
@@ -1938,7 +1938,7 @@ Denominación</translation>
     <message>
         <location line="+1"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <location line="+18"/>

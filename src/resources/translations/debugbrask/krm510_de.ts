@@ -869,7 +869,7 @@
 <context>
     <name>DialogViewSweepBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewsweepbrask.cpp" line="+13"/>
+        <location filename="../../../debugbrask/dialogviewsweepbrask.cpp" line="+11"/>
         <source>View Data Sweep Brask Unit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -912,7 +912,7 @@
 <context>
     <name>DialogViewZKillDataBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewzkilldatabrask.cpp" line="+14"/>
+        <location filename="../../../debugbrask/dialogviewzkilldatabrask.cpp" line="+12"/>
         <source>View Data Z Kill Brask Unit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -955,7 +955,7 @@
 <context>
     <name>DialogViewZTstDataBrask</name>
     <message>
-        <location filename="../../../debugbrask/dialogviewztstdatabrask.cpp" line="+13"/>
+        <location filename="../../../debugbrask/dialogviewztstdatabrask.cpp" line="+11"/>
         <source>View Data Z Tst Brask Unit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1362,6 +1362,47 @@
         <location line="+0"/>
         <source>Corrente Bassa.</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TestChargeDialog</name>
+    <message>
+        <source>Test Carica</source>
+        <translation type="obsolete">Ladetest</translation>
+    </message>
+    <message>
+        <source>Carica in corso...</source>
+        <translation type="obsolete">Laden läuft...</translation>
+    </message>
+    <message>
+        <source>Batteria carica.</source>
+        <translation type="obsolete">Akku geladen.</translation>
+    </message>
+</context>
+<context>
+    <name>TestDialog</name>
+    <message>
+        <source>Test Scheda</source>
+        <translation type="obsolete">Platinentest</translation>
+    </message>
+    <message>
+        <source>Esegui Test</source>
+        <translation type="obsolete">Test starten</translation>
+    </message>
+    <message>
+        <source>Test superato.</source>
+        <translation type="obsolete">Test bestanden.</translation>
+    </message>
+</context>
+<context>
+    <name>TestRampDialog</name>
+    <message>
+        <source>Test Rampa</source>
+        <translation type="obsolete">Rampentest</translation>
+    </message>
+    <message>
+        <source>Rampa eseguita.</source>
+        <translation type="obsolete">Rampe ausgeführt.</translation>
     </message>
 </context>
 </TS>

@@ -217,12 +217,12 @@
     <message>
         <location line="+2"/>
         <source>Reset</source>
-        <translation>Reset</translation>
+        <translation>Zurücksetzen</translation>
     </message>
     <message>
         <location line="+2"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Ende</translation>
     </message>
     <message>
         <location line="+39"/>
@@ -296,7 +296,7 @@
     <message>
         <location line="+7"/>
         <source>Reset</source>
-        <translation>Reset</translation>
+        <translation>Zurücksetzen</translation>
     </message>
     <message>
         <location line="+2"/>
@@ -468,7 +468,7 @@ Vor weiteren Tests bitte warten.</translation>
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+72"/>
+        <location filename="../../../measure/panelIV.cpp" line="+70"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -495,10 +495,10 @@ Vor weiteren Tests bitte warten.</translation>
     <message>
         <location line="+2"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Ende</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+13"/>
         <source>Calcolo</source>
         <translation>Berechnung</translation>
     </message>
@@ -722,7 +722,7 @@ Bitte wiederholen.</translation>
     <message>
         <location line="+2"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Ende</translation>
     </message>
     <message>
         <location line="+6"/>
@@ -749,7 +749,7 @@ Bitte wiederholen.</translation>
 <context>
     <name>StringIV</name>
     <message>
-        <location filename="../../../measure/stringIV.cpp" line="+71"/>
+        <location filename="../../../measure/stringIV.cpp" line="+69"/>
         <source>String IV</source>
         <translation>String IV</translation>
     </message>
@@ -776,10 +776,10 @@ Bitte wiederholen.</translation>
     <message>
         <location line="+2"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Ende</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+13"/>
         <source>Attuale</source>
         <translation>Aktuell</translation>
     </message>
@@ -970,7 +970,7 @@ Bitte wiederholen.</translation>
 <context>
     <name>ViewMeasures</name>
     <message>
-        <location filename="../../../measure/viewmeasures.cpp" line="+49"/>
+        <location filename="../../../measure/viewmeasures.cpp" line="+47"/>
         <source>Misure</source>
         <translation>Messungen</translation>
     </message>
@@ -996,17 +996,17 @@ Bitte wiederholen.</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+31"/>
+        <location line="+18"/>
         <source>Potenza</source>
         <translation>Leistung</translation>
     </message>
     <message>
-        <location line="-29"/>
+        <location line="-16"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Ende</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+12"/>
         <source>Potenza OPC</source>
         <translation>Leistung OPC</translation>
     </message>

@@ -217,12 +217,12 @@
     <message>
         <location line="+2"/>
         <source>Reset</source>
-        <translation>Reset</translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <location line="+2"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Sortie</translation>
     </message>
     <message>
         <location line="+39"/>
@@ -468,7 +468,7 @@ Attendre avant de reprendre les tests.</translation>
 <context>
     <name>PanelIV</name>
     <message>
-        <location filename="../../../measure/panelIV.cpp" line="+72"/>
+        <location filename="../../../measure/panelIV.cpp" line="+70"/>
         <source>Panel IV</source>
         <translation>Panel IV</translation>
     </message>
@@ -498,7 +498,7 @@ Attendre avant de reprendre les tests.</translation>
         <translation>Sortie</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+13"/>
         <source>Calcolo</source>
         <translation>Calcul</translation>
     </message>
@@ -749,7 +749,7 @@ Repeter le test.</translation>
 <context>
     <name>StringIV</name>
     <message>
-        <location filename="../../../measure/stringIV.cpp" line="+71"/>
+        <location filename="../../../measure/stringIV.cpp" line="+69"/>
         <source>String IV</source>
         <translation>String IV</translation>
     </message>
@@ -779,7 +779,7 @@ Repeter le test.</translation>
         <translation>Sortie</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+13"/>
         <source>Attuale</source>
         <translation>Actuel</translation>
     </message>
@@ -970,7 +970,7 @@ Repeter le test.</translation>
 <context>
     <name>ViewMeasures</name>
     <message>
-        <location filename="../../../measure/viewmeasures.cpp" line="+49"/>
+        <location filename="../../../measure/viewmeasures.cpp" line="+47"/>
         <source>Misure</source>
         <translation>Mesures</translation>
     </message>
@@ -996,17 +996,17 @@ Repeter le test.</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+31"/>
+        <location line="+18"/>
         <source>Potenza</source>
         <translation>Puissance</translation>
     </message>
     <message>
-        <location line="-29"/>
+        <location line="-16"/>
         <source>Exit</source>
         <translation>Sortie</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+12"/>
         <source>Potenza OPC</source>
         <translation>Puissance OPC</translation>
     </message>

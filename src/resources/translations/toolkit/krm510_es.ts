@@ -17,7 +17,7 @@
 <context>
     <name>DialogSystem</name>
     <message>
-        <location filename="../../../toolkit/dialogsystem.cpp" line="+36"/>
+        <location filename="../../../toolkit/dialogsystem.cpp" line="+38"/>
         <source>Impostazione KRM510</source>
         <translation>Configuración KRM510</translation>
     </message>
@@ -106,12 +106,12 @@
     <message>
         <location line="+0"/>
         <source>Rs-232 Serial Adapter</source>
-        <translation>Rs-232 Serial Adapter</translation>
+        <translation>Adaptador serie RS-232</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Bluetooth Adapter</source>
-        <translation>Bluetooth Adapter</translation>
+        <translation>Adaptador Bluetooth</translation>
     </message>
     <message>
         <location line="+2"/>
@@ -121,7 +121,7 @@
     <message>
         <location line="+3"/>
         <source>Bluetooth Address (MAC)</source>
-        <translation>Bluetooth Address (MAC)</translation>
+        <translation>Dirección Bluetooth (MAC)</translation>
     </message>
     <message>
         <location line="+3"/>
@@ -181,7 +181,7 @@
     <message>
         <location line="+2"/>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <location line="+108"/>
@@ -191,7 +191,7 @@
     <message>
         <location line="+5"/>
         <source>Bluetooth MAC</source>
-        <translation>Bluetooth MAC</translation>
+        <translation>MAC Bluetooth</translation>
     </message>
     <message>
         <location line="+1"/>
@@ -248,6 +248,14 @@
         <location line="+1"/>
         <source>Sens. Piranometro</source>
         <translation>Sens. piranómetro</translation>
+    </message>
+    <message>
+        <source>Italy</source>
+        <translation type="obsolete">Italia</translation>
+    </message>
+    <message>
+        <source>England</source>
+        <translation type="obsolete">Inglaterra</translation>
     </message>
 </context>
 <context>
@@ -330,7 +338,7 @@
 <context>
     <name>Plotter</name>
     <message>
-        <location filename="../../../toolkit/plotter.cpp" line="+327"/>
+        <location filename="../../../toolkit/plotter.cpp" line="+369"/>
         <source>Ok</source>
         <translation>Ok</translation>
     </message>
@@ -346,7 +354,7 @@
     </message>
     <message>
         <location line="+0"/>
-        <location line="+61"/>
+        <location line="+64"/>
         <source>STC</source>
         <translation>STC</translation>
     </message>

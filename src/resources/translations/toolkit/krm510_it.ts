@@ -17,7 +17,7 @@
 <context>
     <name>DialogSystem</name>
     <message>
-        <location filename="../../../toolkit/dialogsystem.cpp" line="+36"/>
+        <location filename="../../../toolkit/dialogsystem.cpp" line="+38"/>
         <source>Impostazione KRM510</source>
         <translation>Impostazione KRM510</translation>
     </message>
@@ -249,6 +249,14 @@
         <source>Sens. Piranometro</source>
         <translation>Sens. Piranometro</translation>
     </message>
+    <message>
+        <source>Italy</source>
+        <translation type="obsolete">Italy</translation>
+    </message>
+    <message>
+        <source>England</source>
+        <translation type="obsolete">England</translation>
+    </message>
 </context>
 <context>
     <name>EmbKeyboard</name>
@@ -330,7 +338,7 @@
 <context>
     <name>Plotter</name>
     <message>
-        <location filename="../../../toolkit/plotter.cpp" line="+327"/>
+        <location filename="../../../toolkit/plotter.cpp" line="+369"/>
         <source>Ok</source>
         <translation>Ok</translation>
     </message>
@@ -346,7 +354,7 @@
     </message>
     <message>
         <location line="+0"/>
-        <location line="+61"/>
+        <location line="+64"/>
         <source>STC</source>
         <translation>STC</translation>
     </message>

@@ -2,79 +2,109 @@
 <!DOCTYPE TS>
 <TS version="2.0" language="de_DE" sourcelanguage="it_IT">
 <context>
-    <name>DialogCopy</name>
-    <message>
-        <location filename="../../../usb/dialogcopy.cpp" line="+36"/>
-        <source>Apri</source>
-        <translation>Öffnen</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Indietro</source>
-        <translation>Zurück</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Conferma</source>
-        <translation>Bestätigen</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Exit</source>
-        <translation>Ende</translation>
-    </message>
-    <message>
-        <location line="+142"/>
-        <source>Cancella...</source>
-        <translation>Abbrechen...</translation>
-    </message>
-    <message>
-        <location line="+16"/>
-        <source>Terminato</source>
-        <translation>Beendet</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Disconnettere la chiavetta USB prima di scollegarla.</source>
-        <translation>USB-Stick vor dem Abziehen trennen.</translation>
-    </message>
-</context>
-<context>
     <name>DialogCopyFrom</name>
     <message>
         <location filename="../../../usb/dialogcopyfrom.cpp" line="+10"/>
-        <location line="+19"/>
         <source>Copia Da...</source>
         <translation>Kopieren von...</translation>
     </message>
     <message>
-        <location line="-19"/>
+        <location line="+0"/>
         <source>Selezionare la sorgente</source>
         <translation>Quelle wählen</translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="+0"/>
+        <source>Apri</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Indietro</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <location line="+1"/>
         <source>Copia DataBase</source>
         <translation>Datenbank kopieren</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Conferma</source>
+        <translation>Bestätigen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Exit</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancella...</source>
+        <translation>Abbrechen...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Terminato</source>
+        <translation>Beendet</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Disconnettere la chiavetta USB prima di scollegarla.</source>
+        <translation>USB-Stick vor dem Abziehen trennen.</translation>
     </message>
 </context>
 <context>
     <name>DialogCopyTo</name>
     <message>
         <location filename="../../../usb/dialogcopyto.cpp" line="+8"/>
-        <location line="+13"/>
         <source>Copia In...</source>
         <translation>Kopieren nach...</translation>
     </message>
     <message>
-        <location line="-13"/>
+        <location line="+0"/>
         <source>Selezionare la destinazione</source>
         <translation>Ziel wählen</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+0"/>
+        <source>Apri</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Indietro</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <location line="+1"/>
         <source>Copia DataBase</source>
         <translation>Datenbank kopieren</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Conferma</source>
+        <translation>Bestätigen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Exit</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancella...</source>
+        <translation>Abbrechen...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Terminato</source>
+        <translation>Beendet</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Disconnettere la chiavetta USB prima di scollegarla.</source>
+        <translation>USB-Stick vor dem Abziehen trennen.</translation>
     </message>
 </context>
 <context>

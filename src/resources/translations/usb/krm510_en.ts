@@ -2,79 +2,109 @@
 <!DOCTYPE TS>
 <TS version="2.0" language="en_US" sourcelanguage="it_IT">
 <context>
-    <name>DialogCopy</name>
-    <message>
-        <location filename="../../../usb/dialogcopy.cpp" line="+36"/>
-        <source>Apri</source>
-        <translation>Open</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Indietro</source>
-        <translation>Back</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Conferma</source>
-        <translation>Confirm</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Exit</source>
-        <translation>Exit</translation>
-    </message>
-    <message>
-        <location line="+142"/>
-        <source>Cancella...</source>
-        <translation>Cancel...</translation>
-    </message>
-    <message>
-        <location line="+16"/>
-        <source>Terminato</source>
-        <translation>Finished</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Disconnettere la chiavetta USB prima di scollegarla.</source>
-        <translation>Disconnect the USB stick before removing it.</translation>
-    </message>
-</context>
-<context>
     <name>DialogCopyFrom</name>
     <message>
         <location filename="../../../usb/dialogcopyfrom.cpp" line="+10"/>
-        <location line="+19"/>
         <source>Copia Da...</source>
         <translation>Copy from...</translation>
     </message>
     <message>
-        <location line="-19"/>
+        <location line="+0"/>
         <source>Selezionare la sorgente</source>
         <translation>Select the source</translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="+0"/>
+        <source>Apri</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Indietro</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <location line="+1"/>
         <source>Copia DataBase</source>
         <translation>Database copy</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Conferma</source>
+        <translation>Confirm</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancella...</source>
+        <translation>Cancel...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Terminato</source>
+        <translation>Finished</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Disconnettere la chiavetta USB prima di scollegarla.</source>
+        <translation>Disconnect the USB stick before removing it.</translation>
     </message>
 </context>
 <context>
     <name>DialogCopyTo</name>
     <message>
         <location filename="../../../usb/dialogcopyto.cpp" line="+8"/>
-        <location line="+13"/>
         <source>Copia In...</source>
         <translation>Copy to...</translation>
     </message>
     <message>
-        <location line="-13"/>
+        <location line="+0"/>
         <source>Selezionare la destinazione</source>
         <translation>Select the destination</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+0"/>
+        <source>Apri</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Indietro</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <location line="+1"/>
         <source>Copia DataBase</source>
         <translation>Database copy</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Conferma</source>
+        <translation>Confirm</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancella...</source>
+        <translation>Cancel...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Terminato</source>
+        <translation>Finished</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Disconnettere la chiavetta USB prima di scollegarla.</source>
+        <translation>Disconnect the USB stick before removing it.</translation>
     </message>
 </context>
 <context>

@@ -2,79 +2,109 @@
 <!DOCTYPE TS>
 <TS version="2.0" language="es_ES" sourcelanguage="it_IT">
 <context>
-    <name>DialogCopy</name>
-    <message>
-        <location filename="../../../usb/dialogcopy.cpp" line="+36"/>
-        <source>Apri</source>
-        <translation>Abrir</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Indietro</source>
-        <translation>Atrás</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Conferma</source>
-        <translation>Confirmar</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Exit</source>
-        <translation>Salir</translation>
-    </message>
-    <message>
-        <location line="+142"/>
-        <source>Cancella...</source>
-        <translation>Cancelar...</translation>
-    </message>
-    <message>
-        <location line="+16"/>
-        <source>Terminato</source>
-        <translation>Terminado</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Disconnettere la chiavetta USB prima di scollegarla.</source>
-        <translation>Desconecte la memoria USB antes de retirarla.</translation>
-    </message>
-</context>
-<context>
     <name>DialogCopyFrom</name>
     <message>
         <location filename="../../../usb/dialogcopyfrom.cpp" line="+10"/>
-        <location line="+19"/>
         <source>Copia Da...</source>
         <translation>Copiar de...</translation>
     </message>
     <message>
-        <location line="-19"/>
+        <location line="+0"/>
         <source>Selezionare la sorgente</source>
         <translation>Seleccione el origen</translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="+0"/>
+        <source>Apri</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Indietro</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <location line="+1"/>
         <source>Copia DataBase</source>
         <translation>Copia base de datos</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Conferma</source>
+        <translation>Confirmar</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancella...</source>
+        <translation>Cancelar...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Terminato</source>
+        <translation>Terminado</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Disconnettere la chiavetta USB prima di scollegarla.</source>
+        <translation>Desconecte la memoria USB antes de retirarla.</translation>
     </message>
 </context>
 <context>
     <name>DialogCopyTo</name>
     <message>
         <location filename="../../../usb/dialogcopyto.cpp" line="+8"/>
-        <location line="+13"/>
         <source>Copia In...</source>
         <translation>Copiar a...</translation>
     </message>
     <message>
-        <location line="-13"/>
+        <location line="+0"/>
         <source>Selezionare la destinazione</source>
         <translation>Seleccione el destino</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+0"/>
+        <source>Apri</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Indietro</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <location line="+1"/>
         <source>Copia DataBase</source>
         <translation>Copia base de datos</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Conferma</source>
+        <translation>Confirmar</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancella...</source>
+        <translation>Cancelar...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Terminato</source>
+        <translation>Terminado</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Disconnettere la chiavetta USB prima di scollegarla.</source>
+        <translation>Desconecte la memoria USB antes de retirarla.</translation>
     </message>
 </context>
 <context>

@@ -2,79 +2,109 @@
 <!DOCTYPE TS>
 <TS version="2.0" language="fr_FR" sourcelanguage="it_IT">
 <context>
-    <name>DialogCopy</name>
-    <message>
-        <location filename="../../../usb/dialogcopy.cpp" line="+36"/>
-        <source>Apri</source>
-        <translation>Ouvrir</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Indietro</source>
-        <translation>Retour</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Conferma</source>
-        <translation>Confirmer</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Exit</source>
-        <translation>Sortie</translation>
-    </message>
-    <message>
-        <location line="+142"/>
-        <source>Cancella...</source>
-        <translation>Annuler...</translation>
-    </message>
-    <message>
-        <location line="+16"/>
-        <source>Terminato</source>
-        <translation>Terminé</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Disconnettere la chiavetta USB prima di scollegarla.</source>
-        <translation>Déconnectez la clé USB avant de la retirer.</translation>
-    </message>
-</context>
-<context>
     <name>DialogCopyFrom</name>
     <message>
         <location filename="../../../usb/dialogcopyfrom.cpp" line="+10"/>
-        <location line="+19"/>
         <source>Copia Da...</source>
         <translation>Copier de...</translation>
     </message>
     <message>
-        <location line="-19"/>
+        <location line="+0"/>
         <source>Selezionare la sorgente</source>
         <translation>Sélectionner la source</translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="+0"/>
+        <source>Apri</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Indietro</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <location line="+1"/>
         <source>Copia DataBase</source>
         <translation>Copie base de données</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Conferma</source>
+        <translation>Confirmer</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Exit</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancella...</source>
+        <translation>Annuler...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Terminato</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Disconnettere la chiavetta USB prima di scollegarla.</source>
+        <translation>Déconnectez la clé USB avant de la retirer.</translation>
     </message>
 </context>
 <context>
     <name>DialogCopyTo</name>
     <message>
         <location filename="../../../usb/dialogcopyto.cpp" line="+8"/>
-        <location line="+13"/>
         <source>Copia In...</source>
         <translation>Copier vers...</translation>
     </message>
     <message>
-        <location line="-13"/>
+        <location line="+0"/>
         <source>Selezionare la destinazione</source>
         <translation>Sélectionner la destination</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+0"/>
+        <source>Apri</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Indietro</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <location line="+1"/>
         <source>Copia DataBase</source>
         <translation>Copie base de données</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Conferma</source>
+        <translation>Confirmer</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Exit</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancella...</source>
+        <translation>Annuler...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Terminato</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Disconnettere la chiavetta USB prima di scollegarla.</source>
+        <translation>Déconnectez la clé USB avant de la retirer.</translation>
     </message>
 </context>
 <context>

@@ -2,79 +2,109 @@
 <!DOCTYPE TS>
 <TS version="2.0" language="it_IT" sourcelanguage="it_IT">
 <context>
-    <name>DialogCopy</name>
-    <message>
-        <location filename="../../../usb/dialogcopy.cpp" line="+36"/>
-        <source>Apri</source>
-        <translation>Apri</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Indietro</source>
-        <translation>Indietro</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Conferma</source>
-        <translation>Conferma</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Exit</source>
-        <translation>Exit</translation>
-    </message>
-    <message>
-        <location line="+142"/>
-        <source>Cancella...</source>
-        <translation>Cancella...</translation>
-    </message>
-    <message>
-        <location line="+16"/>
-        <source>Terminato</source>
-        <translation>Terminato</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>Disconnettere la chiavetta USB prima di scollegarla.</source>
-        <translation>Disconnettere la chiavetta USB prima di scollegarla.</translation>
-    </message>
-</context>
-<context>
     <name>DialogCopyFrom</name>
     <message>
         <location filename="../../../usb/dialogcopyfrom.cpp" line="+10"/>
-        <location line="+19"/>
         <source>Copia Da...</source>
         <translation>Copia Da...</translation>
     </message>
     <message>
-        <location line="-19"/>
+        <location line="+0"/>
         <source>Selezionare la sorgente</source>
         <translation>Selezionare la sorgente</translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="+0"/>
+        <source>Apri</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Indietro</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <location line="+1"/>
         <source>Copia DataBase</source>
         <translation>Copia DataBase</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Conferma</source>
+        <translation>Conferma</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancella...</source>
+        <translation>Cancella...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Terminato</source>
+        <translation>Terminato</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Disconnettere la chiavetta USB prima di scollegarla.</source>
+        <translation>Disconnettere la chiavetta USB prima di scollegarla.</translation>
     </message>
 </context>
 <context>
     <name>DialogCopyTo</name>
     <message>
         <location filename="../../../usb/dialogcopyto.cpp" line="+8"/>
-        <location line="+13"/>
         <source>Copia In...</source>
         <translation>Copia in...</translation>
     </message>
     <message>
-        <location line="-13"/>
+        <location line="+0"/>
         <source>Selezionare la destinazione</source>
         <translation>Selezionare la destinazione</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+0"/>
+        <source>Apri</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Indietro</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <location line="+1"/>
         <source>Copia DataBase</source>
         <translation>Copia DataBase</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Conferma</source>
+        <translation>Conferma</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cancella...</source>
+        <translation>Cancella...</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Terminato</source>
+        <translation>Terminato</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Disconnettere la chiavetta USB prima di scollegarla.</source>
+        <translation>Disconnettere la chiavetta USB prima di scollegarla.</translation>
     </message>
 </context>
 <context>
