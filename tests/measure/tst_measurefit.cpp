@@ -1,6 +1,7 @@
 // Every screen of the measures in each of the five languages, on the
 // instrument's screen: the module and string screens as they open, the
-// environment, the series resistance result, the viewer of a saved module and
+// environment, the module screen with a measure and its verdict, the series
+// resistance result, the viewer of a saved module and
 // string measure with its figures and verdict, and the reference choice.
 // Each is shot into build/screenshots and every text of it fits.
 #include "measure/dialogambiente.h"
@@ -12,6 +13,7 @@
 #include "measure/viewfixture.h"
 #include "measure/viewmeasures.h"
 #include "support/fivelanguages.h"
+#include "support/modaldriver.h"
 #include "support/screenshot.h"
 
 #include <QListWidget>
@@ -54,10 +56,11 @@ private slots:
         QFETCH(int, lang);
         ShownLanguage shown(lang);
         QVERIFY(shown.loaded());
-        TestRoot root(0.01);
+        TestRoot root(0.1);
         SimInstrument sim(root);
         configure(root);
         QVERIFY(world(sim, 900, 40));
+        QVERIFY(addModule("Simul", "simul", "SIM 250", "sim_250", simulatedSheet(3)));
         QVERIFY(
             addModule("Solar Power Italia", "spi", "SPI 250 Mono", "spi_250", simulatedSheet()));
         QVERIFY(
@@ -71,6 +74,21 @@ private slots:
 
         const QList<ScreenMaker> screens = {
             {"measure-module", [] { return std::make_unique<PanelIV>(nullptr); }},
+            {"measure-module-verdict",
+             [] {
+                 // measured, then judged against the reference, no ageing
+                 auto panel = std::make_unique<PanelIV>(nullptr);
+                 panel->resize(1024, 600);
+                 panel->show();
+                 ModalDriver driver;
+                 touch(panel.get(), "Start");
+                 driver.onNext([](QWidget* w) { chooseInReferenceDialog(w, "Simul", "SIM 250"); });
+                 driver.onNext([](QWidget* w) { touch(w, "Non Applicare"); });
+                 touch(panel.get(), "Confronto");
+                 if (driver.pending() != 0 || !driver.boxes.isEmpty())
+                     return std::unique_ptr<PanelIV>();
+                 return panel;
+             }},
             {"measure-string", [] { return std::make_unique<StringIV>(nullptr); }},
             {"measure-environment",
              [] {
@@ -95,7 +113,11 @@ private slots:
                  QListWidget* models = choice->findChild<QListWidget*>("Modello");
                  if (!brands || !models || !QTest::qWaitForWindowExposed(choice.get()))
                      return std::unique_ptr<ReferencePanel>();
-                 brands->setCurrentRow(0);
+                 const QList<QListWidgetItem*> brand =
+                     brands->findItems("Solar Power Italia", Qt::MatchExactly);
+                 if (brand.isEmpty())
+                     return std::unique_ptr<ReferencePanel>();
+                 brands->setCurrentItem(brand[0]);
                  if (!QTest::qWaitFor([models] { return models->count() == 2; }, 2000))
                      return std::unique_ptr<ReferencePanel>();
                  models->setCurrentRow(1);
