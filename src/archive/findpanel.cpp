@@ -7,8 +7,8 @@
 #include "toolkit/embkeyboard.h"
 #include "toolkit/infobar.h"
 #include "toolkit/messagebox.h"
-#include "toolkit/tabcolumns.h"
 #include "toolkit/numbertext.h"
+#include "toolkit/tabcolumns.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -73,9 +73,11 @@ FindPanel::FindPanel(QWidget* parent, _listBrand* brandList)
     _buttonReset->setObjectName("Reset");
     _buttonExit = new QPushButton(QIcon(":/icon/exit.png"), tr("Exit"));
     _buttonExit->setObjectName("Exit");
+    // the count takes the room the buttons leave: where the language's words
+    // are longer than that room, it is drawn smaller, the buttons keep theirs
+    _labelCount->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     QHBoxLayout* buttons = new QHBoxLayout;
-    buttons->addWidget(_labelCount);
-    buttons->addStretch();
+    buttons->addWidget(_labelCount, 1);
     buttons->addWidget(_buttonFind);
     buttons->addWidget(_buttonReset);
     buttons->addWidget(_buttonExit);

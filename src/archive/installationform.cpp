@@ -26,11 +26,13 @@ InstallationForm::InstallationForm(QWidget* parent, const char* objectName,
     static const char* const name[INSTALLATION_FIELDS] = {"id",     "city",  "zip",  "prov",
                                                           "street", "nstri", "npowe"};
     QGridLayout* grid = new QGridLayout;
-    // four rows on the left, three on the right
+    // four rows on the left, three on the right; fields narrow enough that
+    // the longest labels (French, Spanish) and the power's unit stand beside
+    // them within the screen's width
     for (int i = 0; i < INSTALLATION_FIELDS; i++)
         _edit[i] =
             formLine(grid, name[i], texts.label[i], i == INST_NPOWE ? texts.unitPower : QString(),
-                     i % 4, i < 4 ? 0 : 3, 300);
+                     i % 4, i < 4 ? 0 : 3, 270);
 
     auto comboRow = [this, grid](int row, const QString& label, const char* name, QComboBox** combo,
                                  QPushButton** add, QPushButton** del) {

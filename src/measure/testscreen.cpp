@@ -203,9 +203,20 @@ void layOutScreen(QWidget* screen, Plotter* plotter, QWidget* bar,
     QHBoxLayout* row = new QHBoxLayout(bar);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(1);
-    for (QPushButton* button : buttons)
-        if (button != nullptr)
-            row->addWidget(button);
+    for (QPushButton* button : buttons) {
+        if (button == nullptr)
+            continue;
+        // in a language of longer words the row can pass the screen's width
+        // once the supply's symbol shows beside the clock: the buttons then
+        // give up some width, their texts drawn smaller by the instrument's
+        // style
+        QSizePolicy policy = button->sizePolicy();
+        if (policy.horizontalPolicy() == QSizePolicy::Minimum)
+            policy.setHorizontalPolicy(QSizePolicy::Preferred);
+        button->setSizePolicy(policy);
+        button->setMinimumWidth(button->sizeHint().width() * 3 / 4);
+        row->addWidget(button);
+    }
     row->addStretch();
     row->addWidget(supply);
     row->addWidget(clock);

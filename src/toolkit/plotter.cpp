@@ -2,7 +2,6 @@
 
 #include "toolkit/textfit.h"
 
-#include <QHash>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -327,42 +326,10 @@ bool Plotter::BackgroundKey::operator==(const BackgroundKey& o) const
 void Plotter::drawTextInBox(QPainter* painter, const QRect& box, int flags, const QString& text)
 {
     const QFont former = painter->font();
-    QFont font = former;
-    // The size found is always the same for the same font, box, flags, text
-    // and device, and finding it measures the text at every size from the
-    // font's down: on the instrument's processor that search was most of a
-    // plot's drawing. Each answer is kept (a few hundred at most: the labels
-    // of the scales in use).
-    struct Fit {
-        int px;
-        bool fits;
-    };
-    static QHash<QString, Fit> found;
-    const QString key = font.key() + QLatin1Char('|') + QString::number(box.width()) +
-                        QLatin1Char('x') + QString::number(box.height()) + QLatin1Char('|') +
-                        QString::number(flags) + QLatin1Char('|') +
-                        QString::number(painter->device()->logicalDpiY()) + QLatin1Char('|') + text;
-    auto known = found.constFind(key);
-    if (known == found.constEnd()) {
-        int px = QFontInfo(font).pixelSize();
-        bool fits = false;
-        while (true) {
-            const QRect need = QFontMetrics(font, painter->device()).boundingRect(box, flags, text);
-            fits = need.width() <= box.width() && need.height() <= box.height();
-            if (fits || px <= MinTextPixels)
-                break;
-            font.setPixelSize(--px);
-        }
-        if (found.size() >= 1024)
-            found.clear();
-        known = found.insert(key, Fit{px, fits});
-    }
-    const bool fits = known->fits;
-    if (known->px != QFontInfo(font).pixelSize())
-        font.setPixelSize(known->px);
-    painter->setFont(font);
-    painter->drawText(box, fits ? flags : flags | Qt::TextDontClip, text);
-    textFonts.append(font);
+    const TextFit fit = fitTextInBox(former, text, box, flags, painter->device());
+    painter->setFont(fit.font);
+    painter->drawText(box, fit.fits ? flags : flags | Qt::TextDontClip, text);
+    textFonts.append(fit.font);
     painter->setFont(former);
 }
 

@@ -1,7 +1,5 @@
 #include "toolkit/titlestrip.h"
 
-#include "toolkit/textfit.h"
-
 #include <QPalette>
 
 TitleStrip::TitleStrip(QWidget* dialog) : QLabel(dialog)
@@ -16,6 +14,11 @@ TitleStrip::TitleStrip(QWidget* dialog) : QLabel(dialog)
     setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);
+    // a title too long for the strip is drawn smaller by the instrument's
+    // style, as every text that does not fit its box
+    QFont font = this->font();
+    font.setPixelSize(FontPixels);
+    setFont(font);
 }
 
 TitleStrip* TitleStrip::of(const QWidget* dialog)
@@ -44,20 +47,6 @@ void TitleStrip::follow(QWidget* dialog)
     }
     strip->setText(title);
     strip->setGeometry(0, 0, dialog->width(), Height);
-    strip->fitText();
     strip->raise();
     strip->show();
-}
-
-void TitleStrip::resizeEvent(QResizeEvent* event)
-{
-    QLabel::resizeEvent(event);
-    fitText();
-}
-
-void TitleStrip::fitText()
-{
-    QFont font = this->font();
-    font.setPixelSize(FontPixels);
-    setFont(fittedFont(font, text(), contentsRect().width() - indent()));
 }

@@ -20,12 +20,8 @@ public:
     // The strip of a dialog, if it has one.
     static TitleStrip* of(const QWidget* dialog);
 
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-
 private:
     explicit TitleStrip(QWidget* dialog);
-    void fitText();
 };
 
 #endif

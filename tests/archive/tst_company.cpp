@@ -12,6 +12,7 @@
 #include "shell/language.h"
 #include "shell/orvia.h"
 #include "support/datafiles.h"
+#include "support/fivelanguages.h"
 #include "support/screenshot.h"
 #include "toolkit/infobar.h"
 
@@ -37,10 +38,12 @@ class TestCompany : public QObject
         return root.read((QByteArray("/krm510data/datacompany/") + file).constData());
     }
     // The screen at the instrument's size, into build/screenshots.
-    static void shoot(QWidget* w, const QString& name)
+    // The screen at the instrument's size in the row's language, into
+    // build/screenshots: what keeps it from being read, named after it.
+    static QStringList shoot(QWidget* w, const QString& name)
     {
-        w->resize(1024, 600);
-        QVERIFY(!saveScreenshot(w, name).isEmpty());
+        QFETCH(int, lang);
+        return shootInLanguage(w, name, lang);
     }
     static QStringList companyFiles(const TestRoot& root)
     {
@@ -578,46 +581,52 @@ private slots:
 
     // ---- Screenshots
 
-    void screenshotsOfTheCompanyArchive()
+    void operatorSeesWhereTheyAre_companyScreensFitInFiveLanguages_data() { languageRows(); }
+    void operatorSeesWhereTheyAre_companyScreensFitInFiveLanguages()
     {
+        QFETCH(int, lang);
+        ShownLanguage shown(lang);
+        QVERIFY(shown.loaded());
+        QStringList faults;
         TestRoot root(0.001);
         addCompany("Rossi Impianti", "Marco", "C0042", "Via dei Mille 12", {"tetto"});
         addCompany("Bianchi Energia", nullptr, "B0001", "Via Emilia 7");
         addInstallation("Tetto", "Imola", "4", "12");
         {
             ArchiveCompany menu(nullptr);
-            shoot(&menu, "company-archive");
+            faults += shoot(&menu, "company-archive");
         }
         {
             Edited e("rossi_impianti");
             EditCompany d(nullptr, e.list, e.record);
-            shoot(&d, "company-edit");
+            faults += shoot(&d, "company-edit");
         }
         {
             InsertCompany d(nullptr);
             ModalDriver driver;
             enter(driver, &d, "surn", "Verdi");
             enter(driver, &d, "phone", "+39 051 654");
-            shoot(&d, "company-insert");
+            faults += shoot(&d, "company-insert");
         }
         for (_selectType mode : {SELECT_EDIT, SELECT_DELETE, SELECT_VIEW}) {
             SelectCompany d(nullptr, mode);
-            shoot(&d, "company-" + d.objectName());
+            faults += shoot(&d, "company-" + d.objectName());
         }
         {
             SelectInstallation d(nullptr, SELECT_VIEW);
-            shoot(&d, "company-select-installation");
+            faults += shoot(&d, "company-select-installation");
         }
         {
             ListCompany d(nullptr);
-            shoot(&d, "company-list");
+            faults += shoot(&d, "company-list");
         }
         {
             _company* c = readCompanyFromFile("rossi_impianti");
             ViewCompany d(nullptr, c);
-            shoot(&d, "company-view");
+            faults += shoot(&d, "company-view");
             freeCompany(c);
         }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
     }
 };
 

@@ -14,6 +14,7 @@
 #include "shell/language.h"
 #include "shell/orvia.h"
 #include "support/datafiles.h"
+#include "support/fivelanguages.h"
 #include "support/screenshot.h"
 #include "toolkit/infobar.h"
 
@@ -42,10 +43,12 @@ class TestInstallation : public QObject
     {
         return QDir(root.path("/krm510data/datainstallation")).entryList(QDir::Files);
     }
-    static void shoot(QWidget* w, const QString& name)
+    // The screen at the instrument's size in the row's language, into
+    // build/screenshots: what keeps it from being read, named after it.
+    static QStringList shoot(QWidget* w, const QString& name)
     {
-        w->resize(1024, 600);
-        QVERIFY(!saveScreenshot(w, name).isEmpty());
+        QFETCH(int, lang);
+        return shootInLanguage(w, name, lang);
     }
     // A measure of the given date, time and comment in the archive.
     static QByteArray measure(_meaType type, const char* date, const char* time, const char* com)
@@ -539,8 +542,13 @@ private slots:
 
     // ---- Screenshots
 
-    void screenshotsOfTheInstallationArchive()
+    void operatorSeesWhereTheyAre_installationScreensFitInFiveLanguages_data() { languageRows(); }
+    void operatorSeesWhereTheyAre_installationScreensFitInFiveLanguages()
     {
+        QFETCH(int, lang);
+        ShownLanguage shown(lang);
+        QVERIFY(shown.loaded());
+        QStringList faults;
         TestRoot root(0.001);
         checkDirData();
         const QByteArray panel = measure(MEA_PANEL, "2026/05/04", "11:22:33", "Tetto");
@@ -550,12 +558,12 @@ private slots:
         addInstallation("Capannone", "Lugo", "10", "30.5");
         {
             ArchiveInstallation menu(nullptr);
-            shoot(&menu, "installation-archive");
+            faults += shoot(&menu, "installation-archive");
         }
         {
             Edited e("tetto");
             EditInstallation d(nullptr, e.node, e.record);
-            shoot(&d, "installation-edit");
+            faults += shoot(&d, "installation-edit");
         }
         {
             InsertInstallation d(nullptr);
@@ -563,22 +571,23 @@ private slots:
             enter(driver, &d, "id", "Pensilina");
             enter(driver, &d, "nstri", "2");
             enter(driver, &d, "npowe", "6.6");
-            shoot(&d, "installation-insert");
+            faults += shoot(&d, "installation-insert");
         }
         for (_selectType mode : {SELECT_EDIT, SELECT_DELETE}) {
             SelectInstallation d(nullptr, mode);
-            shoot(&d, "installation-" + d.objectName());
+            faults += shoot(&d, "installation-" + d.objectName());
         }
         {
             ListInstallation d(nullptr);
-            shoot(&d, "installation-list");
+            faults += shoot(&d, "installation-list");
         }
         {
             _installation* in = readInstallationFromFile("tetto");
             ViewInstallation d(nullptr, in);
-            shoot(&d, "installation-view");
+            faults += shoot(&d, "installation-view");
             freeInstallation(in);
         }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
     }
 };
 

@@ -4,6 +4,7 @@
 #include "measure/viewmeasures.h"
 #include "shell/language.h"
 #include "shell/orvia.h"
+#include "support/fivelanguages.h"
 #include "support/lookcheck.h"
 #include "support/modaldriver.h"
 #include "support/screenshot.h"
@@ -427,18 +428,15 @@ private slots:
             QCOMPARE(list.listWidget->item(0)->text(), header);
             QCOMPARE(list.infoBar->title(), title);
             QCOMPARE(list.graphButton->text(), graph);
-            QVERIFY(legibilityFaults(&list).isEmpty());
-            saveScreenshot(&list, "listmeasures-" + QString(QTest::currentDataTag()));
+            QStringList faults = shootInLanguage(&list, "listmeasures", lang);
             ArchiveMeasures menu(nullptr);
             QCOMPARE(menu.stringsButton->text(), strings);
-            QVERIFY(QTest::qWaitForWindowExposed(&menu));
-            QVERIFY(legibilityFaults(&menu).isEmpty());
+            faults += shootInLanguage(&menu, "archivemeasures", lang);
             _listMeasures* entry = list.head;
             ViewMeasures view(nullptr, entry, MEA_PANEL);
-            view.show();
-            QVERIFY(QTest::qWaitForWindowExposed(&view));
             QCOMPARE(view._buttonPower->text(), power);
-            QVERIFY(legibilityFaults(&view).isEmpty());
+            faults += shootInLanguage(&view, "viewmeasures", lang);
+            QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
         }
         QCoreApplication::removeTranslator(&translator);
     }

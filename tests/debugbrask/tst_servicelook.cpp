@@ -1,5 +1,6 @@
-// What an operator in the sun sees on every service screen: no text below
-// 11 pixels, none wider than its widget, and a focus mark that the keys move.
+// What an operator in the sun sees on every service screen, in each of the
+// five languages: no text below 11 pixels, none that does not fit its widget,
+// and a focus mark that the keys move.
 #include "debugbrask/dialogbraskdebug.h"
 #include "debugbrask/dialogcurrmean.h"
 #include "debugbrask/dialoginfosave.h"
@@ -16,6 +17,7 @@
 #include "debugbrask/dialogzkillbrask.h"
 #include "debugbrask/dialogztstbrask.h"
 #include "servicefixture.h"
+#include "support/fivelanguages.h"
 
 #include <memory>
 
@@ -38,16 +40,14 @@ class TestServiceLook : public QObject
 {
     Q_OBJECT
 
-    // The screen shown at the instrument's size: its faults, named after it.
+    // The screen shown at the instrument's size in the row's language: its
+    // faults, named after it; its picture service-<name>-<language>.png.
     static QStringList faultsOf(QWidget* screen, const char* name)
     {
-        screen->resize(1024, 600);
-        screen->show();
-        if (!QTest::qWaitForWindowExposed(screen))
-            return {QString("%1: never shown").arg(name)};
-        QStringList faults = legibilityFaults(screen);
-        for (QString& fault : faults)
-            fault.prepend(QString(name) + ": ");
+        QFETCH(int, lang);
+        QString picture = QString("service-") + name;
+        picture = picture.toLower().replace(' ', '-');
+        const QStringList faults = shootInLanguage(screen, picture, lang);
         screen->hide();
         return faults;
     }
@@ -62,8 +62,14 @@ private slots:
         setInstrumentLook();
     }
 
+    // The service screens show their Italian source text in every language,
+    // and fit in each.
+    void operatorReadsEveryServiceScreenInTheSun_data() { languageRows(); }
     void operatorReadsEveryServiceScreenInTheSun()
     {
+        QFETCH(int, lang);
+        ShownLanguage shown(lang);
+        QVERIFY(shown.loaded());
         TestRoot root(0.01);
         SimInstrument sim(root);
         configure(root);

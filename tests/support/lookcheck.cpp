@@ -2,6 +2,7 @@
 
 #include "support/siminstrument.h"
 #include "toolkit/infobar.h"
+#include "toolkit/instrumentstyle.h"
 #include "toolkit/plotter.h"
 #include "toolkit/textfit.h"
 
@@ -9,14 +10,20 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QFontMetrics>
+#include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QStyle>
 #include <QStyleOptionButton>
+#include <QStyleOptionComboBox>
+#include <QStyleOptionGroupBox>
 #include <QTest>
 #include <QTextDocument>
 #include <QTime>
@@ -60,6 +67,32 @@ int textWidth(const QFontMetrics& metrics, const QString& text)
     return widest;
 }
 
+// The text as the style draws it in a box of the given width (and height, for
+// a text that wraps): in the font it fits, not below 11 pixels. A fault when
+// even that font overflows the box.
+void checkFit(const QWidget* w, const QString& what, const QFont& font, const QString& text,
+              const QRect& box, int flags, QStringList* faults)
+{
+    const TextFit fit = fitTextInBox(font, text, textRoom(box, flags), flags, w);
+    if (fit.fits)
+        return;
+    const QRect need = QFontMetrics(fit.font, w).boundingRect(textRoom(box, flags), flags, text);
+    if (flags & Qt::TextWordWrap)
+        *faults << QString("%1 \"%2\": wrapped text at %3 px needs %4 x %5 px, has %6 x %7 px")
+                       .arg(what, text)
+                       .arg(fontPixels(fit.font))
+                       .arg(need.width())
+                       .arg(need.height())
+                       .arg(box.width())
+                       .arg(box.height());
+    else
+        *faults << QString("%1 \"%2\": text %3 px wide at %4 px, box %5 px")
+                       .arg(what, text)
+                       .arg(need.width())
+                       .arg(fontPixels(fit.font))
+                       .arg(box.width());
+}
+
 void checkLabel(QLabel* label, QStringList* faults)
 {
     if (label->text().isEmpty() || label->objectName() == "qt_msgboxex_icon_label")
@@ -67,30 +100,30 @@ void checkLabel(QLabel* label, QStringList* faults)
     const QRect box = label->contentsRect().marginsRemoved(
         QMargins(label->margin(), label->margin(), label->margin(), label->margin()));
     const int indent = label->indent() > 0 ? label->indent() : 0;
-    if (label->wordWrap()) {
-        const int need = label->heightForWidth(label->width());
-        if (need > label->height())
-            *faults << QString("%1 \"%2\": wrapped text needs %3 px, has %4 px")
-                           .arg(nameOf(label), label->text())
-                           .arg(need)
-                           .arg(label->height());
-        return;
-    }
-    int need;
-    if (Qt::mightBeRichText(label->text())) {
+    const QRect room = box.adjusted(0, 0, -indent, 0);
+    if (label->textFormat() != Qt::PlainText && Qt::mightBeRichText(label->text())) {
+        // drawn by the label's own text document, in the label's font
         QTextDocument document;
         document.setDefaultFont(label->font());
         document.setHtml(label->text());
         document.setDocumentMargin(0);
-        need = std::ceil(document.idealWidth());
-    } else {
-        need = textWidth(label->fontMetrics(), label->text());
+        if (label->wordWrap()) {
+            document.setTextWidth(room.width());
+            if (std::ceil(document.size().height()) > room.height())
+                *faults << QString("%1 \"%2\": wrapped text needs %3 px, has %4 px")
+                               .arg(nameOf(label), label->text())
+                               .arg(std::ceil(document.size().height()))
+                               .arg(room.height());
+        } else if (std::ceil(document.idealWidth()) > room.width()) {
+            *faults << QString("%1 \"%2\": text %3 px wide, box %4 px")
+                           .arg(nameOf(label), label->text())
+                           .arg(std::ceil(document.idealWidth()))
+                           .arg(room.width());
+        }
+        return;
     }
-    if (need > box.width() - indent)
-        *faults << QString("%1 \"%2\": text %3 px wide, box %4 px")
-                       .arg(nameOf(label), label->text())
-                       .arg(need)
-                       .arg(box.width() - indent);
+    const int flags = int(label->alignment()) | (label->wordWrap() ? Qt::TextWordWrap : 0);
+    checkFit(label, nameOf(label), label->font(), label->text(), room, flags, faults);
 }
 
 void checkButton(QAbstractButton* button, QStringList* faults)
@@ -114,16 +147,94 @@ void checkButton(QAbstractButton* button, QStringList* faults)
         box = button->style()->subElementRect(QStyle::SE_PushButtonContents, &option, button);
     else
         box = button->contentsRect().adjusted(2, 2, -2, -2);
-    int need = textWidth(button->fontMetrics(), text);
     const bool iconBeside = !button->icon().isNull() &&
                             (!tool || tool->toolButtonStyle() == Qt::ToolButtonTextBesideIcon);
     if (iconBeside)
-        need += button->iconSize().width() + 4;
-    if (need > box.width())
-        *faults << QString("%1 \"%2\": text %3 px wide, box %4 px")
-                       .arg(nameOf(button), text)
-                       .arg(need)
-                       .arg(box.width());
+        box.setWidth(InstrumentStyle::textBesideIcon(box.width(), button->iconSize().width()));
+    checkFit(button, nameOf(button), button->font(), text, box, Qt::AlignCenter, faults);
+    // the entries of the button's menu stand in a menu no wider than the screen
+    const QPushButton* push = qobject_cast<QPushButton*>(button);
+    const QMenu* menu = push ? push->menu() : tool ? tool->menu() : nullptr;
+    if (menu) {
+        const int screen = button->screen()->geometry().width();
+        for (const QAction* action : menu->actions()) {
+            const int need = textWidth(QFontMetrics(menu->font(), menu), shownText(action->text()));
+            if (need > screen)
+                *faults << QString("%1 menu entry \"%2\": text %3 px wide, screen %4 px")
+                               .arg(nameOf(button), action->text())
+                               .arg(need)
+                               .arg(screen);
+        }
+        if (menu->sizeHint().width() > screen)
+            *faults << QString("%1: menu %2 px wide, screen %3 px")
+                           .arg(nameOf(button))
+                           .arg(menu->sizeHint().width())
+                           .arg(screen);
+    }
+}
+
+// Every entry of a combo box, each shown in turn as its current one.
+void checkCombo(QComboBox* combo, QStringList* faults)
+{
+    if (combo->isEditable())
+        return;
+    QStyleOptionComboBox option;
+    option.initFrom(combo);
+    option.editable = false;
+    option.frame = combo->hasFrame();
+    option.subControls = QStyle::SC_All;
+    option.iconSize = combo->iconSize();
+    const QRect field =
+        combo->style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo)
+            .adjusted(1, 0, -1, 0);
+    for (int i = 0; i < combo->count(); ++i) {
+        QRect box = field;
+        if (!combo->itemIcon(i).isNull())
+            box.setLeft(box.left() + combo->iconSize().width() + 4);
+        checkFit(combo, QString("%1 entry %2").arg(nameOf(combo)).arg(i), combo->font(),
+                 combo->itemText(i), box, Qt::AlignLeft | Qt::AlignVCenter, faults);
+    }
+}
+
+void checkGroupTitle(QGroupBox* group, QStringList* faults)
+{
+    if (group->title().isEmpty())
+        return;
+    QStyleOptionGroupBox option;
+    option.initFrom(group);
+    option.text = group->title();
+    option.subControls = QStyle::SC_GroupBoxLabel | QStyle::SC_GroupBoxFrame;
+    if (group->isCheckable())
+        option.subControls |= QStyle::SC_GroupBoxCheckBox;
+    option.textAlignment = group->alignment();
+    const QRect box = group->style()->subControlRect(QStyle::CC_GroupBox, &option,
+                                                     QStyle::SC_GroupBoxLabel, group);
+    checkFit(group, nameOf(group) + " title", group->font(), group->title(),
+             box.intersected(group->rect()), Qt::AlignLeft | Qt::TextShowMnemonic, faults);
+}
+
+// The titles of a table's columns or rows, each in its section.
+void checkHeader(QHeaderView* header, QStringList* faults)
+{
+    const QAbstractItemModel* model = header->model();
+    if (!model)
+        return;
+    const int margin = header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
+    for (int section = 0; section < header->count(); ++section) {
+        if (header->isSectionHidden(section))
+            continue;
+        const QString text =
+            model->headerData(section, header->orientation(), Qt::DisplayRole).toString();
+        if (text.isEmpty())
+            continue;
+        const bool across = header->orientation() == Qt::Horizontal;
+        const int size = header->sectionSize(section) - 2 * margin;
+        const QRect box = across ? QRect(0, 0, size, header->height())
+                                 : QRect(0, 0, header->width() - 2 * margin, size);
+        checkFit(header, QString("%1 section %2").arg(nameOf(header)).arg(section), header->font(),
+                 text, box, Qt::AlignCenter, faults);
+    }
 }
 
 void checkItems(QAbstractItemView* view, QStringList* faults)
@@ -131,6 +242,7 @@ void checkItems(QAbstractItemView* view, QStringList* faults)
     const QAbstractItemModel* model = view->model();
     if (!model)
         return;
+    const auto* style = dynamic_cast<const InstrumentStyle*>(view->style());
     const int margin = view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, view) + 1;
     for (int row = 0; row < model->rowCount(); ++row) {
         for (int column = 0; column < model->columnCount(); ++column) {
@@ -148,17 +260,14 @@ void checkItems(QAbstractItemView* view, QStringList* faults)
                                .arg(nameOf(view))
                                .arg(row)
                                .arg(fontPixels(font));
-            int need = textWidth(QFontMetrics(font), text) + 2 * margin;
-            if (!model->data(index, Qt::DecorationRole).isNull())
-                need += view->iconSize().width() + margin;
             const QRect cell = view->visualRect(index);
-            const int room = std::min(cell.width() > 0 ? cell.width() : view->viewport()->width(),
-                                      view->viewport()->width());
-            if (need > room)
-                *faults << QString("%1 item \"%2\": text %3 px wide, room %4 px")
-                               .arg(nameOf(view), text)
-                               .arg(need)
-                               .arg(room);
+            int room = std::min(cell.width() > 0 ? cell.width() : view->viewport()->width(),
+                                view->viewport()->width());
+            if (!model->data(index, Qt::DecorationRole).isNull())
+                room -= view->iconSize().width() + margin;
+            room = style ? style->cellTextRoom(room, view) : room - 2 * margin;
+            checkFit(view, QString("%1 row %2").arg(nameOf(view)).arg(row), font, text,
+                     QRect(0, 0, room, QWIDGETSIZE_MAX), Qt::AlignLeft | Qt::AlignVCenter, faults);
         }
     }
 }
@@ -186,8 +295,10 @@ QStringList legibilityFaults(QWidget* screen)
         QAbstractButton* button = qobject_cast<QAbstractButton*>(w);
         QAbstractItemView* view = qobject_cast<QAbstractItemView*>(w);
         // a table's header shares the table's model but shows its headers
-        if (qobject_cast<QHeaderView*>(w))
+        if (QHeaderView* header = qobject_cast<QHeaderView*>(w)) {
             view = nullptr;
+            checkHeader(header, &faults);
+        }
         const bool showsText = (label && !label->text().isEmpty()) ||
                                (button && !button->text().isEmpty()) || view ||
                                w->inherits("QLineEdit") || w->inherits("QComboBox");
@@ -199,6 +310,10 @@ QStringList legibilityFaults(QWidget* screen)
             checkButton(button, &faults);
         else if (view)
             checkItems(view, &faults);
+        else if (QComboBox* combo = qobject_cast<QComboBox*>(w))
+            checkCombo(combo, &faults);
+        else if (QGroupBox* group = qobject_cast<QGroupBox*>(w))
+            checkGroupTitle(group, &faults);
         if (const Plotter* plotter = qobject_cast<const Plotter*>(w)) {
             for (const QFont& font : plotter->drawnTextFonts())
                 if (fontPixels(font) < MinTextPixels)

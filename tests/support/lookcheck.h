@@ -16,9 +16,12 @@ double contrastRatio(const QColor& a, const QColor& b);
 
 // Walks every visible widget of the screen (a shown widget, laid out) and
 // every font the plotter's painter drew a text in, and names each fault: a
-// font below 11 pixels; a label, button or list item whose text is wider
-// than its contents rectangle (a wrapped label: taller). Empty when the
-// screen is legible.
+// font below 11 pixels; a text that does not fit its box even in the size
+// the instrument's style draws it in (the largest that fits, not below 11
+// pixels): a label, a button (its icon beside), a check or radio box, every
+// entry of a combo box, a group's title, a row of a list or a table, by the
+// widest line of its text, and a wrapped label by its height too; a button's
+// menu wider than the screen. Empty when the screen is legible.
 QStringList legibilityFaults(QWidget* screen);
 
 // The screen grabbed with the focus on widget A (`before`), then on widget B

@@ -6,20 +6,26 @@
 #include "toolkit/dialogsystem.h"
 #include "toolkit/embkeyboard.h"
 #include "toolkit/focusmark.h"
+#include "toolkit/instrumentstyle.h"
 #include "toolkit/messagebox.h"
 #include "toolkit/plotter.h"
+#include "toolkit/textfit.h"
 #include "toolkit/titlestrip.h"
 
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLabel>
+#include <QListWidget>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStyle>
+#include <QStyleFactory>
+#include <QStyleOptionButton>
 #include <QToolButton>
 #include <QtTest>
 #include <algorithm>
+#include <memory>
 
 // The operator always sees where they are: one look for the whole program,
 // the dialog titles drawn, the focus marked, disabled controls that look
@@ -65,6 +71,33 @@ class TestLook : public QObject
         return ratios.at(ratios.size() / 2);
     }
 
+    // The widget drawn as it stands, and drawn again with the font given set
+    // on it: equal when the style drew its text in that font.
+    static bool drawnInFont(QWidget* w, const QFont& font)
+    {
+        const QImage drawn = grabScreen(w);
+        const QFont own = w->font();
+        w->setFont(font);
+        const QImage expected = grabScreen(w);
+        w->setFont(own);
+        return drawn == expected;
+    }
+    // The largest size, not above the widget's, in which the text fits the
+    // room: its size fits, one pixel more does not.
+    static int largestFit(const QFont& font, const QString& text, const QRect& room, int flags)
+    {
+        const TextFit fit = fitTextInBox(font, text, room, flags);
+        if (!fit.fits)
+            return -1;
+        if (fontPixels(fit.font) == fontPixels(font))
+            return fontPixels(font);
+        QFont larger = fit.font;
+        larger.setPixelSize(fontPixels(fit.font) + 1);
+        const QRect need = QFontMetrics(larger).boundingRect(room, flags, text);
+        const bool largerFits = need.width() <= room.width() && need.height() <= room.height();
+        return largerFits ? -1 : fontPixels(fit.font);
+    }
+
 public:
     static void initMain() { useInstrumentScreen(); }
 
@@ -96,6 +129,109 @@ private slots:
         QApplication::restoreOverrideCursor();
         QVERIFY(QApplication::overrideCursor() == nullptr);
         QApplication::setOverrideCursor(QCursor(Qt::BlankCursor));
+    }
+
+    // A text wider than its label in some language: drawn in the largest size
+    // in which it fits, the label keeping its font and its place.
+    void operatorSeesWhereTheyAre_labelTooNarrowDrawsItsTextInTheLargestSizeThatFits()
+    {
+        QWidget screen;
+        screen.resize(1024, 600);
+        QLabel* label = new QLabel("Wiederherstellung des Power Device.", &screen);
+        label->setGeometry(10, 10, 400, 60);
+        showActive(&screen);
+        QCOMPARE(fontPixels(label->font()), 38);
+        const QRect room = textRoom(label->contentsRect(), int(label->alignment()));
+        const int px = largestFit(label->font(), label->text(), room, int(label->alignment()));
+        QVERIFY2(px >= MinTextPixels && px < 38, qPrintable(QString::number(px)));
+        QFont fitted = label->font();
+        fitted.setPixelSize(px);
+        QVERIFY(drawnInFont(label, fitted));
+        QCOMPARE(fontPixels(label->font()), 38);
+        QCOMPARE(label->geometry(), QRect(10, 10, 400, 60));
+        const QStringList faults = legibilityFaults(&screen);
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+    }
+
+    // A wrapped text taller than its label: smaller until its lines fit.
+    void operatorSeesWhereTheyAre_wrappedTextTooTallDrawsInTheLargestSizeThatFits()
+    {
+        QWidget screen;
+        screen.resize(1024, 600);
+        QLabel* label = new QLabel("Valeurs STC pas disponibles. Repeter le test.", &screen);
+        label->setWordWrap(true);
+        label->setGeometry(10, 10, 420, 90);
+        showActive(&screen);
+        const int flags = int(label->alignment()) | Qt::TextWordWrap;
+        const int px = largestFit(label->font(), label->text(), label->contentsRect(), flags);
+        QVERIFY2(px >= MinTextPixels && px < 38, qPrintable(QString::number(px)));
+        QFont fitted = label->font();
+        fitted.setPixelSize(px);
+        QVERIFY(drawnInFont(label, fitted));
+        const QStringList faults = legibilityFaults(&screen);
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+    }
+
+    // A button's text beside its icon, a combo's entry, a list's row: each
+    // drawn smaller where it does not fit, and then within its room.
+    void operatorSeesWhereTheyAre_buttonComboAndRowFitTheirRoom()
+    {
+        QWidget screen;
+        screen.resize(1024, 600);
+        QPushButton* button = new QPushButton(QIcon(":/icon/exit.png"), "Sauvegarder", &screen);
+        button->setGeometry(10, 10, 200, 60);
+        QComboBox* combo = new QComboBox(&screen);
+        combo->addItems({"Anschlussproblem an Power Device.", "Modul"});
+        combo->setGeometry(10, 100, 300, 60);
+        QListWidget* list = new QListWidget(&screen);
+        list->addItem("Sonneneinstrahlung nicht ermittelt.");
+        list->setGeometry(10, 200, 300, 200);
+        showActive(&screen);
+        // the button's text in the largest size that fits beside its icon
+        QStyleOptionButton option;
+        option.initFrom(button);
+        option.text = button->text();
+        option.icon = button->icon();
+        option.iconSize = button->iconSize();
+        const QRect contents =
+            button->style()->subElementRect(QStyle::SE_PushButtonContents, &option, button);
+        const QRect room(
+            0, 0, InstrumentStyle::textBesideIcon(contents.width(), button->iconSize().width()),
+            QWIDGETSIZE_MAX);
+        const int px = largestFit(button->font(), button->text(), room, Qt::AlignCenter);
+        QVERIFY2(px >= MinTextPixels && px < 38, qPrintable(QString::number(px)));
+        QFont fitted = button->font();
+        fitted.setPixelSize(px);
+        QVERIFY(drawnInFont(button, fitted));
+        // the combo drawn otherwise than by the toolkit's own style, and the
+        // combo and the list legible as drawn
+        std::unique_ptr<QStyle> fusion(QStyleFactory::create("Fusion"));
+        const QImage drawn = grabScreen(combo);
+        combo->setStyle(fusion.get());
+        const QImage plain = grabScreen(combo);
+        combo->setStyle(QApplication::style());
+        QVERIFY(drawn != plain);
+        const QStringList faults = legibilityFaults(&screen);
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+    }
+
+    // What does not fit even at 11 pixels is a fault of the screen, to be
+    // mended by its layout.
+    void operatorSeesWhereTheyAre_textThatOverflowsAtElevenPixelsIsAFault()
+    {
+        QWidget screen;
+        screen.resize(1024, 600);
+        QLabel* label = new QLabel("Dieser Messungsname ist bereits vorhanden.", &screen);
+        label->setObjectName("narrow");
+        label->setGeometry(10, 10, 60, 60);
+        QPushButton* button = new QPushButton("Vergleichen", &screen);
+        button->setGeometry(10, 100, 40, 60);
+        showActive(&screen);
+        const QStringList faults = legibilityFaults(&screen);
+        QCOMPARE(faults.size(), 2);
+        QVERIFY2(faults[0].startsWith("QLabel \"narrow\""), qPrintable(faults[0]));
+        QVERIFY2(faults[0].contains("at 11 px"), qPrintable(faults[0]));
+        QVERIFY2(faults[1].contains("Vergleichen"), qPrintable(faults[1]));
     }
 
     void operatorSeesWhereTheyAre_messageBoxTitleDrawn()
@@ -142,11 +278,19 @@ private slots:
         QVERIFY(TitleStrip::of(&dialog) == nullptr);
         QCOMPARE(dialog.contentsMargins().top(), 0);
         // a long title is drawn smaller, never below 11 pixels
-        dialog.setWindowTitle(QString("Degrado Modulo ").repeated(6));
+        dialog.setWindowTitle("Degrado Modulo, Luminosità");
         TitleStrip* strip = TitleStrip::of(&dialog);
         QVERIFY(strip != nullptr);
-        QVERIFY(QFontInfo(strip->font()).pixelSize() >= 11);
-        QVERIFY(QFontInfo(strip->font()).pixelSize() < TitleStrip::FontPixels);
+        QCOMPARE(fontPixels(strip->font()), int(TitleStrip::FontPixels));
+        const int flags = int(strip->alignment());
+        const QRect room =
+            textRoom(strip->contentsRect().adjusted(strip->indent(), 0, 0, 0), flags);
+        const int px = largestFit(strip->font(), strip->text(), room, flags);
+        QVERIFY2(px >= MinTextPixels && px < TitleStrip::FontPixels,
+                 qPrintable(QString::number(px)));
+        QFont fitted = strip->font();
+        fitted.setPixelSize(px);
+        QVERIFY(drawnInFont(strip, fitted));
     }
 
     void operatorSeesWhereTheyAre_focusMarkedOnTheSettings()

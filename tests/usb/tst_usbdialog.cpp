@@ -131,20 +131,6 @@ QString sleeps()
     return out.join(", ");
 }
 
-// A stick put in and mounted by its script, as "Connetti" would.
-bool mountedStick(const SimInstrument& sim)
-{
-    return sim.stickIn() && system(qPrintable(sim.root() + "/usr/bin/mountusb.sh >/dev/null")) == 0;
-}
-
-bool makeDirs(const QString& base, const QStringList& dirs)
-{
-    for (const QString& d : dirs)
-        if (!QDir().mkpath(base + "/" + d))
-            return false;
-    return true;
-}
-
 // Cancels the copy's progress dialog when its bar reaches the value: the
 // dialog is caught as it shows, so the cancel falls between two directories.
 class CancelAt : public QObject
@@ -188,7 +174,7 @@ bool upgradeScript(const TestRoot& root)
 // package script leaves as the image.
 bool stickWithFirmware(const TestRoot& root, const SimInstrument& sim)
 {
-    return mountedStick(sim) && upgradeScript(root) && root.mkdir("/home") &&
+    return usb::mountedStick(sim) && upgradeScript(root) && root.mkdir("/home") &&
            usb::writeFile(sim.stickPath() + "/firmware.hex", usb::firmware()) &&
            usb::writeFile(sim.stickPath() + "/krm510-3.0.upg", QByteArray());
 }

@@ -4,6 +4,7 @@
 #ifndef KRM_TESTS_USBFIXTURE_H
 #define KRM_TESTS_USBFIXTURE_H
 
+#include "support/siminstrument.h"
 #include "support/testroot.h"
 
 #include <QDir>
@@ -90,6 +91,20 @@ inline void chooseUpgradeFile(QWidget* files, const QString& name)
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
                       list->visualItemRect(items[0]).center());
     QTest::mouseClick(files->findChild<QPushButton*>("Conferma"), Qt::LeftButton);
+}
+
+// A stick put in and mounted by its script, as "Connetti" would.
+inline bool mountedStick(const SimInstrument& sim)
+{
+    return sim.stickIn() && system(qPrintable(sim.root() + "/usr/bin/mountusb.sh >/dev/null")) == 0;
+}
+
+inline bool makeDirs(const QString& base, const QStringList& dirs)
+{
+    for (const QString& d : dirs)
+        if (!QDir().mkpath(base + "/" + d))
+            return false;
+    return true;
 }
 
 } // namespace usb
