@@ -1078,12 +1078,12 @@ Firmenname</translation>
     </message>
     <message>
         <location line="+35"/>
-        <location line="+226"/>
+        <location line="+228"/>
         <source>Modello trovato : </source>
         <translation>Gefundene Modelle : </translation>
     </message>
     <message>
-        <location line="-224"/>
+        <location line="-226"/>
         <source>Cerca</source>
         <translation>Suchen</translation>
     </message>
@@ -1098,7 +1098,7 @@ Firmenname</translation>
         <translation>Ende</translation>
     </message>
     <message>
-        <location line="+67"/>
+        <location line="+69"/>
         <source>Pmax</source>
         <translation>Pmax</translation>
     </message>

@@ -1078,12 +1078,12 @@ Raison sociale</translation>
     </message>
     <message>
         <location line="+35"/>
-        <location line="+226"/>
+        <location line="+228"/>
         <source>Modello trovato : </source>
         <translation>Modèles trouvés : </translation>
     </message>
     <message>
-        <location line="-224"/>
+        <location line="-226"/>
         <source>Cerca</source>
         <translation>Chercher</translation>
     </message>
@@ -1098,7 +1098,7 @@ Raison sociale</translation>
         <translation>Sortie</translation>
     </message>
     <message>
-        <location line="+67"/>
+        <location line="+69"/>
         <source>Pmax</source>
         <translation>Pmax</translation>
     </message>

@@ -1078,12 +1078,12 @@ Denominazione</translation>
     </message>
     <message>
         <location line="+35"/>
-        <location line="+226"/>
+        <location line="+228"/>
         <source>Modello trovato : </source>
         <translation>Modello trovato : </translation>
     </message>
     <message>
-        <location line="-224"/>
+        <location line="-226"/>
         <source>Cerca</source>
         <translation>Cerca</translation>
     </message>
@@ -1098,7 +1098,7 @@ Denominazione</translation>
         <translation>Exit</translation>
     </message>
     <message>
-        <location line="+67"/>
+        <location line="+69"/>
         <source>Pmax</source>
         <translation>Pmax</translation>
     </message>

@@ -338,7 +338,7 @@
 <context>
     <name>Plotter</name>
     <message>
-        <location filename="../../../toolkit/plotter.cpp" line="+369"/>
+        <location filename="../../../toolkit/plotter.cpp" line="+416"/>
         <source>Ok</source>
         <translation>Ok</translation>
     </message>
@@ -354,7 +354,7 @@
     </message>
     <message>
         <location line="+0"/>
-        <location line="+64"/>
+        <location line="+75"/>
         <source>STC</source>
         <translation>STC</translation>
     </message>
