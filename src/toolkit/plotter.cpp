@@ -470,12 +470,12 @@ void Plotter::drawCurves(QPainter* painter)
         QPen pen(color, 1, Qt::SolidLine);
         pen.setCosmetic(true);
         painter->setPen(pen);
-        for (const QPoint& shift : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(-1, 0)}) {
-            painter->translate(shift);
+        for (const QPoint& corner : {QPoint(0, 0), QPoint(1, 0), QPoint(1, 1), QPoint(0, 1)}) {
+            painter->translate(corner);
             for (const QPolygonF& run : runs)
                 painter->drawPolyline(run);
+            painter->translate(-corner);
         }
-        painter->translate(0, -1);
 
         if (id >= 0 && id <= 5)
             textFonts.append(painter->font());
